@@ -1,0 +1,131 @@
+#ifndef VARNEL_EGL_BACKEND_PORT_H
+#define VARNEL_EGL_BACKEND_PORT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+// What the back end needs from the window system. Each port defines these functions in its own
+// folder; native handles pass as integers, and a port never dereferences one that is not its own.
+// Errors of the window system end in the result of the operation that met them.
+
+/// A connection to the window system, owned by the port.
+struct PortConnection;
+/// An OpenGL context with its port's data, owned by whoever made it.
+struct PortContext;
+/// What a context draws into: the drawing side of a window, or a pbuffer.
+struct PortDrawable;
+
+using PortNativeDisplay = std::uintptr_t;
+using PortNativeWindow = std::uintptr_t;
+using PortNativePixmap = std::uintptr_t;
+
+/// One native framebuffer configuration as plain numbers.
+struct PortPixelFormat {
+  std::uintptr_t id = 0;      ///< the port's own number of it
+  std::uintptr_t visual = 0;  ///< visual that its windows must have; 0: any window will do
+  int visualDepth = 0;        ///< bits of that visual's pixels
+  bool drawsToWindow = false;
+  bool drawsToPbuffer = false;
+  bool accelerated = false;
+  bool doubleBuffer = false;
+  int red = 0, green = 0, blue = 0, alpha = 0;
+  int depth = 0, stencil = 0;
+  int sampleBuffers = 0, samples = 0;
+  bool bindsRgb = false, bindsRgba = false;  ///< pbuffers of it can become textures
+};
+
+/// How a native bitmap keeps its pixels. Rows lie from top to bottom, each on a multiple of 4
+/// bytes.
+struct PortPixmapLayout {
+  int width = 0, height = 0;
+  int bitsPerPixel = 0;
+  std::uint32_t redMask = 0, greenMask = 0, blueMask = 0;  ///< all 0: plain
+};
+
+/// What a pbuffer is to be, beside its format: the values are those of EGL.
+struct PortPbufferRequest {
+  int width = 0, height = 0;
+  int textureFormat = 0;
+  int textureTarget = 0;
+  bool mipmap = false;
+};
+
+// --- Connections -------------------------------------------------------------------------------
+
+/// The connection for a native display, 0 for the default one; opened at the first call and kept.
+/// Null where there is none. The port trusts a native display other than 0.
+PortConnection* portConnect(PortNativeDisplay native);
+
+// --- First initialisation ----------------------------------------------------------------------
+
+/// Makes a hidden 64 by 64 window with an OpenGL context and makes that current, so that functions
+/// can be looked up. False with everything undone on failure.
+bool portBeginProbe(PortConnection* connection);
+/// Releases the probe's context, window and class; nothing is current afterwards.
+void portEndProbe(PortConnection* connection);
+/// The display adapter's description; valid between begin and end of the probe.
+const char* portAdapterName(PortConnection* connection);
+/// A function of the desktop's OpenGL by name, core 1.1 names included; null if missing.
+void* portGetProcAddress(const char* name);
+
+// --- Pixel formats and contexts ----------------------------------------------------------------
+
+/// All configurations of the connection, in the window system's order.
+const std::vector<PortPixelFormat>& portPixelFormats(PortConnection* connection);
+/// A context for drawables of the format, sharing objects with all others of the connection.
+/// Null on failure. Freed by portDestroyContext.
+PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format);
+void portDestroyContext(PortConnection* connection, PortContext* context);
+/// Makes the context current on the two drawables; all null releases what is current.
+bool portMakeCurrent(PortConnection* connection, PortDrawable* draw, PortDrawable* read,
+                     PortContext* context);
+
+// --- Windows -----------------------------------------------------------------------------------
+
+/// Size of the window's client area; false if there is no such window or its user has closed it.
+bool portWindowSize(PortConnection* connection, PortNativeWindow window, int* width, int* height);
+/// The visual that formats for the window must have, 0 where any will do.
+std::uintptr_t portWindowVisual(PortConnection* connection, PortNativeWindow window);
+/// The drawing side of a window, with the format set on it. Null on failure. Freed by
+/// portDestroyDrawable, which leaves the window itself alone.
+PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWindow window,
+                                       const PortPixelFormat& format);
+/// Shows the back buffer; false if the window is gone.
+bool portSwapBuffers(PortConnection* connection, PortDrawable* drawable);
+/// Frames to wait between swaps of the drawable. False where the driver has no way to say so.
+bool portSwapInterval(PortConnection* connection, PortDrawable* drawable, int interval);
+
+// --- Pbuffers ----------------------------------------------------------------------------------
+
+/// Null on failure. Freed by portDestroyDrawable.
+PortDrawable* portCreatePbuffer(PortConnection* connection, const PortPixelFormat& format,
+                                const PortPbufferRequest& request);
+void portDestroyDrawable(PortConnection* connection, PortDrawable* drawable);
+/// True where the window system itself can make a texture of a pbuffer; if not, pixels are copied.
+bool portBindsTextures(PortConnection* connection);
+bool portBindTexImage(PortConnection* connection, PortDrawable* drawable);
+bool portReleaseTexImage(PortConnection* connection, PortDrawable* drawable);
+bool portSetMipmapLevel(PortConnection* connection, PortDrawable* drawable, int level);
+
+// --- Native bitmaps ----------------------------------------------------------------------------
+
+/// False if there is no such bitmap.
+bool portPixmapLayout(PortConnection* connection, PortNativePixmap pixmap,
+                      PortPixmapLayout* layout);
+/// Copies all rows of the bitmap, in the layout's form, into or out of `rows`.
+bool portReadPixmap(PortConnection* connection, PortNativePixmap pixmap,
+                    const PortPixmapLayout& layout, void* rows);
+bool portWritePixmap(PortConnection* connection, PortNativePixmap pixmap,
+                     const PortPixmapLayout& layout, const void* rows);
+/// Waits until the window system's own drawing is done.
+void portFlushNative(PortConnection* connection);
+
+// --- Memory ------------------------------------------------------------------------------------
+
+/// Zeroed memory whose address fits 32 bits; null if there is none. Freed by portFreeLow with the
+/// same size.
+void* portAllocateLow(std::size_t size);
+void portFreeLow(void* block, std::size_t size);
+
+#endif
