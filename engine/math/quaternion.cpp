@@ -88,20 +88,25 @@ void quatNormalize(float* q) {
   }
 }
 
-float* quatInverse(const float* q) {
+void quatInverse(const float* q, float* out) {
   const float n = quatNormSquared(q);
-  float* inverse = copyVector(q, 4);
+  std::copy_n(q, 4, out);
   if (n <= 0.0F) {
-    return inverse;
+    return;
   }
   for (int i = 0; i < 3; ++i) {
-    inverse[i] = static_cast<float>(-static_cast<double>(q[i]) / n);
+    out[i] = static_cast<float>(-static_cast<double>(q[i]) / n);
   }
-  inverse[3] = static_cast<float>(static_cast<double>(q[3]) / n);
+  out[3] = static_cast<float>(static_cast<double>(q[3]) / n);
+}
+
+float* quatInverse(const float* q) {
+  float* inverse = new float[4];
+  quatInverse(q, inverse);
   return inverse;
 }
 
-float* quatToAxisAngle(float* q) {
+void quatToAxisAngle(float* q, float* out) {
   const float n = quatNormSquared(q);
   if (q[3] > 1.0F || n > 1.0F) {
     const double m = squareRoot(n);
@@ -112,41 +117,54 @@ float* quatToAxisAngle(float* q) {
   const double w = q[3];
   const double half = arcCosine(q[3]);
   const float s = squareRoot(static_cast<float>(1.0 - w * w));
-  float* result = new float[4];
   if (s >= kernelTolerance) {
     for (int i = 0; i < 3; ++i) {
-      result[i + 1] = static_cast<float>(static_cast<double>(q[i]) / s);
+      out[i + 1] = static_cast<float>(static_cast<double>(q[i]) / s);
     }
   } else {
-    result[1] = 1.0F;
-    result[2] = 0.0F;
-    result[3] = 0.0F;
+    out[1] = 1.0F;
+    out[2] = 0.0F;
+    out[3] = 0.0F;
   }
-  result[0] = static_cast<float>(radToDeg(2.0 * half));
-  normalizeVector(result + 1);
+  out[0] = static_cast<float>(radToDeg(2.0 * half));
+  normalizeVector(out + 1);
+}
+
+float* quatToAxisAngle(float* q) {
+  float* result = new float[4];
+  quatToAxisAngle(q, result);
   return result;
+}
+
+void quatLog(float* q, float* out) {
+  quatToAxisAngle(q, out);
+  const float h = static_cast<float>(degToRad(out[0] / 2.0));
+  for (int i = 0; i < 3; ++i) {
+    out[i] = static_cast<float>(static_cast<double>(h) * out[i + 1]);
+  }
 }
 
 float* quatLog(float* q) {
-  float* result = quatToAxisAngle(q);
-  const float h = static_cast<float>(degToRad(result[0] / 2.0));
-  for (int i = 0; i < 3; ++i) {
-    result[i] = static_cast<float>(static_cast<double>(h) * result[i + 1]);
-  }
+  float* result = new float[4];
+  quatLog(q, result);
   return result;
 }
 
-float* quatExp(const float* v) {
+void quatExp(const float* v, float* out) {
   const float r = vectorLength(v);
-  float* q = new float[4];
   const double s = sine(r);
   for (int i = 0; i < 3; ++i) {
-    q[i] = r >= kernelTolerance ? static_cast<float>(s * v[i] / r) : v[i];
+    out[i] = r >= kernelTolerance ? static_cast<float>(s * v[i] / r) : v[i];
   }
-  q[3] = cosine(r);
-  if (quatNormSquared(q) > 1.0F) {
-    quatNormalize(q);
+  out[3] = cosine(r);
+  if (quatNormSquared(out) > 1.0F) {
+    quatNormalize(out);
   }
+}
+
+float* quatExp(const float* v) {
+  float* q = new float[4];
+  quatExp(v, q);
   return q;
 }
 
