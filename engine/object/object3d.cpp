@@ -1,5 +1,6 @@
 #include "engine/object/object3d.h"
 
+#include <algorithm>
 #include <boost/pointer_cast.hpp>
 #include <cstdio>
 #include <string>
@@ -46,15 +47,25 @@ Object3D::HashEntry& Object3D::HashEntry::operator=(const HashEntry& other) {
 }
 
 void Object3D::HashEntry::set(int newCount, const float* newValues) {
-  delete[] values;
-  values = nullptr;
   count = 0;
-  if (newCount > 0) {
+  if (newCount > capacity) {
+    delete[] values;
+    values = nullptr;
+    capacity = 0;
     values = new float[static_cast<std::size_t>(newCount)];
-    for (int i = 0; i < newCount; ++i) {
-      values[i] = newValues[i];
-    }
+    capacity = newCount;
+  }
+  if (newCount > 0) {
+    std::copy_n(newValues, newCount, values);
     count = newCount;
+  }
+}
+
+void Object3D::HashEntry::add(int otherCount, const float* otherValues) {
+  count = std::min(count, otherCount);
+  for (int i = 0; i < count; ++i) {
+    values[i] =
+        static_cast<float>(static_cast<double>(values[i]) + static_cast<double>(otherValues[i]));
   }
 }
 
@@ -158,23 +169,6 @@ boost::shared_ptr<Object3D> Object3D::find(int id) {
     descend(*object);
   }
   return boost::shared_ptr<Object3D>();
-}
-
-// Until the animation rooms define them.
-__attribute__((weak)) boost::shared_ptr<Object3D> Object3D::asObject(
-    const boost::shared_ptr<AnimationTrack>&) {
-  return {};
-}
-__attribute__((weak)) void Object3D::addAnimationTrack(const boost::shared_ptr<AnimationTrack>&) {}
-__attribute__((weak)) void Object3D::removeAnimationTrack(
-    const boost::shared_ptr<AnimationTrack>&) {}
-__attribute__((weak)) const boost::shared_ptr<AnimationTrack>& Object3D::getAnimationTrack(
-    unsigned) {
-  static const boost::shared_ptr<AnimationTrack> none;
-  return none;
-}
-__attribute__((weak)) int Object3D::animate(int) {
-  return 0x7FFFFFFF;
 }
 
 }  // namespace varnel_m3g

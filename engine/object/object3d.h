@@ -29,15 +29,19 @@ class Object3D : public boost::enable_shared_from_this<Object3D> {
     HashEntry& operator=(const HashEntry& other);
     ~HashEntry() { delete[] values; }
 
-    /// Copies `count` floats, which must not be this entry's own.
+    /// Copies `count` floats, which must not be this entry's own. Keeps an array that is large
+    /// enough.
     void set(int count, const float* values);
+    /// Adds component by component, over the smaller of the two counts, which becomes the count.
+    void add(int count, const float* values);
 
     int getCount() const { return count; }
     const float* getValues() const { return values; }
 
    private:
     int count = 0;
-    float* values = nullptr;  // owned, `count` elements
+    int capacity = 0;
+    float* values = nullptr;  // owned, `capacity` elements
   };
 
   Object3D(const Object3D&) = delete;
@@ -115,12 +119,20 @@ class Object3D : public boost::enable_shared_from_this<Object3D> {
   /// A track as what every track is, for code that does not know the class.
   static boost::shared_ptr<Object3D> asObject(const boost::shared_ptr<AnimationTrack>& track);
 
+  /// The pass over this object alone; returns its validity.
+  int animateSelf(int worldTime);
   /// Sums the weighted values of the active tracks by property; returns their validity.
   int sampleTracks(int worldTime);
+  void addAnimationValues(unsigned property, int count, const float* values);
   /// Writes the sums into the object by the setters of its class.
   void applyAnimationValues();
+  /// Brings referenceCache up to date and returns the number of references.
+  unsigned cacheCurrentReferences();
+  void freeReferenceCache();
 
   std::map<unsigned, HashEntry> animationValues;  // by target property
+  /// Entries of earlier passes, whose memory serves the next ones.
+  std::map<unsigned, HashEntry> spareAnimationValues;
   std::vector<boost::shared_ptr<AnimationTrack>> animationTracks;
   boost::shared_ptr<Object3D>* referenceCache = nullptr;  // made by the first animate
   unsigned referenceCacheSize = 0;
