@@ -2,6 +2,7 @@
 #define VARNEL_ENGINE_LOADER_LOADER_H
 
 #include <boost/shared_ptr.hpp>
+#include <string>
 
 #include "engine/object/object_table.h"
 
@@ -33,13 +34,15 @@ class Loader {
   static boost::shared_ptr<Image2D> readJPEG(const char* name);
 
  private:
+  // Results of readSection(), which the section loop passes over.
   static constexpr int checksumMismatch = -105;
   static constexpr int unknownCompressionScheme = -106;
 
   static int readSection(M3gObjectInputStream& stream, ObjectTable& objects);
-  static void readObjectInto(M3gObjectInputStream& stream, ObjectTable& objects);
+  static void appendObject(M3gObjectInputStream& stream, ObjectTable& objects);
   static boost::shared_ptr<Object3D> readObject(M3gObjectInputStream& stream, ObjectTable& objects);
   static boost::shared_ptr<Object3D> processExternalRef(M3gObjectInputStream& stream);
+  static std::string lowerCase(const std::string& name);
 };
 
 }  // namespace varnel_m3g

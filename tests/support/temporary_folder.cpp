@@ -1,0 +1,39 @@
+#include "tests/support/temporary_folder.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+
+#include "tests/support/m3g_writer.h"
+
+namespace varnel_test {
+
+TemporaryFolder::TemporaryFolder() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "varnel-XXXXXX").string();
+  if (mkdtemp(pattern.data()) == nullptr) {
+    throw std::runtime_error("cannot make " + pattern);
+  }
+  folder = pattern;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(folder, ignored);
+}
+
+std::string TemporaryFolder::write(const std::string& name, const std::string& bytes) const {
+  writeFile(path(name), bytes);
+  return path(name);
+}
+
+CurrentFolder::CurrentFolder(const std::string& folder)
+    : former(std::filesystem::current_path().string()) {
+  std::filesystem::current_path(folder);
+}
+
+CurrentFolder::~CurrentFolder() {
+  std::error_code ignored;
+  std::filesystem::current_path(former, ignored);
+}
+
+}  // namespace varnel_test
