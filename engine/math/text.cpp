@@ -22,7 +22,7 @@ std::string floatToString(float value) {
   std::string text;
   double rest = value;
   if (rest < 0.0) {
-    text = "-";
+    text += '-';
     rest = -rest;
   }
   const int integer = truncated(rest);
