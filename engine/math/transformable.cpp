@@ -216,9 +216,4 @@ const Transform& Transformable::updateComposite() {
   return composite;
 }
 
-// Until the scene rooms define it.
-__attribute__((weak)) bool Transformable::isNode() const {
-  return false;
-}
-
 }  // namespace varnel_m3g

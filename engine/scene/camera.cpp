@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "engine/math/vector.h"
+#include "engine/math/angle.h"
 #include "engine/object/log.h"
 #include "engine/scene/world.h"
 
@@ -36,7 +36,9 @@ boost::shared_ptr<Camera> Camera::create() {
   return camera;
 }
 
-Camera::Camera() { setMatrixToIdentity(); }
+Camera::Camera() {
+  setMatrixToIdentity();
+}
 
 void Camera::setMatrixToIdentity() {
   std::fill(projectionMatrix, projectionMatrix + 16, 0.0f);

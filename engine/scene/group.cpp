@@ -22,17 +22,25 @@ void Group::dump() {
   }
 }
 
-void Group::addChild(boost::shared_ptr<Node> child) { Node::addChild(std::move(child)); }
+void Group::addChild(boost::shared_ptr<Node> child) {
+  Node::addChild(std::move(child));
+}
 
-void Group::removeChild(boost::shared_ptr<Node> child) { Node::removeChild(std::move(child)); }
+void Group::removeChild(boost::shared_ptr<Node> child) {
+  Node::removeChild(std::move(child));
+}
 
-unsigned Group::getChildCount() { return Node::getChildCount(); }
+unsigned Group::getChildCount() {
+  return Node::getChildCount();
+}
 
 bool Group::pick(int scope, float ox, float oy, float oz, float dx, float dy, float dz,
                  RayIntersection* result) {
   return Node::pick(scope, ox, oy, oz, dx, dy, dz, result);
 }
 
-void Group::getChild(boost::shared_ptr<Node>& out, unsigned index) { out = Node::getChild(index); }
+void Group::getChild(boost::shared_ptr<Node>& out, unsigned index) {
+  out = Node::getChild(index);
+}
 
 }  // namespace varnel_m3g

@@ -63,7 +63,9 @@ boost::shared_ptr<Object3D> Light::duplicateImpl(boost::shared_ptr<Object3D> tar
   return target;
 }
 
-void Light::setRenderingEnable(bool enable) { Node::setRenderingEnable(enable); }
+void Light::setRenderingEnable(bool enable) {
+  Node::setRenderingEnable(enable);
+}
 
 void Light::setRoot(boost::weak_ptr<Node> root) {
   const boost::shared_ptr<Light> self = boost::static_pointer_cast<Light>(shared_from_this());

@@ -67,7 +67,9 @@ class GroupsToFillScope {
 
 }  // namespace
 
-bool Transformable::isNode() const { return dynamic_cast<const Node*>(this) != nullptr; }
+bool Transformable::isNode() const {
+  return dynamic_cast<const Node*>(this) != nullptr;
+}
 
 Node::~Node() {
   for (boost::shared_ptr<Node>& child : children) {
@@ -191,7 +193,9 @@ void Node::setUpdatePending(bool pending) {
   }
 }
 
-void Node::setRenderingEnable(bool enable) { renderingEnabled = enable; }
+void Node::setRenderingEnable(bool enable) {
+  renderingEnabled = enable;
+}
 
 void Node::addChild(boost::shared_ptr<Node> child) {
   if (!child) {
@@ -240,7 +244,9 @@ void Node::removeChild(boost::shared_ptr<Node> child) {
   child->updateSceneGraphInfo(boost::weak_ptr<Node>());
 }
 
-unsigned Node::getChildCount() { return static_cast<unsigned>(children.size()); }
+unsigned Node::getChildCount() {
+  return static_cast<unsigned>(children.size());
+}
 
 boost::shared_ptr<Node> Node::getChild(unsigned index) {
   if (index >= children.size()) {
@@ -250,7 +256,9 @@ boost::shared_ptr<Node> Node::getChild(unsigned index) {
   return children[index];
 }
 
-void Node::setRoot(boost::weak_ptr<Node> root) { rootNode = std::move(root); }
+void Node::setRoot(boost::weak_ptr<Node> root) {
+  rootNode = std::move(root);
+}
 
 void Node::traverseChildren(NodeTraverser& traverser) {
   std::lock_guard<Mutex> lock(mutex);

@@ -98,6 +98,8 @@ class Node : public Transformable {
   boost::weak_ptr<Node> getWorldTransform(Transform& out) const;
   /// The transform to root coordinates as last brought up to date.
   const Transform& worldTransform() const { return world; }
+  using Transformable::isUpdatePending;
+  /// Notes that some node below has a pending update; climbs as long as that is news.
   void setChildUpdatePending(bool pending);
   bool isChildUpdatePending() const { return childUpdatePending; }
   /// Brings the world transforms of this subtree up to date, below a parent with the given world
@@ -138,8 +140,6 @@ class Node : public Transformable {
   boost::shared_ptr<Node> nodeFromThis();
 
  private:
-  struct PendingCopy;
-
   /// Sets the node's own defaults and makes it its own root.
   void setNodeDefaults();
   void copyChildren(const boost::shared_ptr<Node>& copy);

@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdio>
 #include <stdexcept>
 
+#include "engine/math/rotation.h"
 #include "engine/math/vector.h"
 #include "engine/scene/node.h"
 
@@ -25,6 +27,10 @@ void targetVector(int target, const char* failure, float* out) {
   }
   const float* vector = VECTORS[target - Node::ORIGIN];
   std::copy(vector, vector + 4, out);
+}
+
+float finiteOrZero(float value) {
+  return std::isfinite(value) ? value : 0.0f;
 }
 
 }  // namespace
@@ -122,8 +128,7 @@ bool Node::alignSelf(const boost::shared_ptr<Node>& reference) {
           "Node.align - z-axis reference is not in the same scene graph as this node");
     }
     if (zNode.get() == this) {
-      throw std::runtime_error(
-          "Node.align - z-axis reference is aligned to itself or a decendent");
+      throw std::runtime_error("Node.align - z-axis reference is aligned to itself or a decendent");
     }
     referenceWorld.set(zNode->world);
     float v[4];
@@ -134,9 +139,9 @@ bool Node::alignSelf(const boost::shared_ptr<Node>& reference) {
     const float angle = alignmentRotation(Z_UNIT, v, axis);
     if (angle == 180.0f) {
       // Opposite vectors have no cross product; the turn is about y.
-      axis[0] = 0.0f;
+      axis[0] = finiteOrZero(axis[0]);
       axis[1] = 1.0f;
-      axis[2] = 0.0f;
+      axis[2] = finiteOrZero(axis[2]);
     }
     if (angle != 0.0f) {
       setOrientation(angle, axis[0], axis[1], axis[2]);
@@ -156,8 +161,7 @@ bool Node::alignSelf(const boost::shared_ptr<Node>& reference) {
           "Node.align - y-axis reference is not in the same scene graph as this node");
     }
     if (yNode.get() == this) {
-      throw std::runtime_error(
-          "Node.align - y-axis reference is aligned to itself or a decendent");
+      throw std::runtime_error("Node.align - y-axis reference is aligned to itself or a decendent");
     }
     if (yNode != zNode) {
       referenceWorld.set(yNode->world);

@@ -37,7 +37,9 @@ const char* className(const Node& node) {
   return "Node";
 }
 
-const char* text(bool value) { return value ? "true" : "false"; }
+const char* text(bool value) {
+  return value ? "true" : "false";
+}
 
 }  // namespace
 

@@ -69,7 +69,9 @@ boost::shared_ptr<Object3D> World::duplicateImpl(boost::shared_ptr<Object3D> tar
   return target;
 }
 
-void World::reset() { Group::reset(); }
+void World::reset() {
+  Group::reset();
+}
 
 void World::setBackground(const boost::shared_ptr<Background>& newBackground) {
   background = newBackground;
@@ -82,12 +84,20 @@ void World::setActiveCamera(const boost::shared_ptr<Camera>& camera) {
   activeCamera = camera;
 }
 
-void World::addCamera(const boost::shared_ptr<Camera>& camera) { cameras.add(camera); }
+void World::addCamera(const boost::shared_ptr<Camera>& camera) {
+  cameras.add(camera);
+}
 
-void World::removeCamera(const boost::shared_ptr<Camera>& camera) { cameras.remove(camera); }
+void World::removeCamera(const boost::shared_ptr<Camera>& camera) {
+  cameras.remove(camera);
+}
 
-void World::addLight(const boost::shared_ptr<Light>& light) { lights.add(light); }
+void World::addLight(const boost::shared_ptr<Light>& light) {
+  lights.add(light);
+}
 
-void World::removeLight(const boost::shared_ptr<Light>& light) { lights.remove(light); }
+void World::removeLight(const boost::shared_ptr<Light>& light) {
+  lights.remove(light);
+}
 
 }  // namespace varnel_m3g
