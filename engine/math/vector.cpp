@@ -6,7 +6,6 @@
 #include <stdexcept>
 
 #include "engine/math/angle.h"
-#include "engine/math/cross.h"
 
 namespace varnel_m3g {
 
@@ -71,20 +70,37 @@ float vectorLength(const float* v) {
 
 float pointDistance(const float* a, const float* b) {
   float difference[3];
-  for (int i = 0; i < 3; ++i) {
-    difference[i] = static_cast<float>(static_cast<double>(a[i]) - b[i]);
-  }
+  subtract(a, b, difference);
   return vectorLength(difference);
 }
 
+void subtract(const float* a, const float* b, float* out) {
+  for (int i = 0; i < 3; ++i) {
+    out[i] = static_cast<float>(static_cast<double>(a[i]) - b[i]);
+  }
+}
+
+void crossProduct(const float* a, const float* b, float* out) {
+  for (int i = 0; i < 3; ++i) {
+    const int j = (i + 1) % 3;
+    const int k = (i + 2) % 3;
+    out[i] =
+        static_cast<float>(static_cast<double>(a[j]) * b[k] - static_cast<double>(b[j]) * a[k]);
+  }
+}
+
 float* crossNormal(const float* a, const float* b) {
-  std::unique_ptr<float[]> c(new float[3]);
-  crossProduct(a, b, c.get());
-  if (vectorLength(c.get()) < kernelTolerance) {
+  std::unique_ptr<float[]> normal(new float[3]);
+  crossNormal(a, b, normal.get());
+  return normal.release();
+}
+
+void crossNormal(const float* a, const float* b, float* out) {
+  crossProduct(a, b, out);
+  if (vectorLength(out) < kernelTolerance) {
     throw std::runtime_error("Null cross product");
   }
-  normalizeVector(c.get());
-  return c.release();
+  normalizeVector(out);
 }
 
 }  // namespace varnel_m3g

@@ -25,8 +25,15 @@ float dotProduct(const float* a, const float* b);
 float vectorLength(const float* v);
 float pointDistance(const float* a, const float* b);
 
+/// out = a - b.
+void subtract(const float* a, const float* b, float* out);
+/// out = a x b; `out` must not be an input.
+void crossProduct(const float* a, const float* b, float* out);
+
 /// The normalised cross product. Throws std::runtime_error when its length is below 0.001.
 float* crossNormal(const float* a, const float* b);
+/// The same into `out`, which must not be an input.
+void crossNormal(const float* a, const float* b, float* out);
 
 }  // namespace varnel_m3g
 
