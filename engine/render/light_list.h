@@ -25,16 +25,16 @@ class LightList {
   const boost::shared_ptr<Light>& get(int index, Transform* transform) const;
   /// Empties the list; lights that are on in OpenGL ES stay on.
   void reset();
-  int count() const { return static_cast<int>(lights_.size()); }
+  int count() const { return static_cast<int>(lights.size()); }
 
   /// Takes over the enabled lights of a world with their world transforms. Never throws for a light
   /// that is missing from the list.
-  void sync(const std::vector<boost::shared_ptr<Light>>& worldLights);
+  void syncLights(const std::vector<boost::shared_ptr<Light>>& worldLights);
   /// Sends the lights that share a bit with a node's scope and switches the others off.
-  void applyScope(int scope) const;
+  void applyLightScope(int scope) const;
 
  private:
-  std::vector<boost::shared_ptr<Light>> lights_;
+  std::vector<boost::shared_ptr<Light>> lights;
 };
 
 }  // namespace varnel_m3g
