@@ -8,6 +8,7 @@
 #include "engine/math/transform.h"
 #include "engine/object/java_types.h"
 #include "engine/render/light_list.h"
+#include "engine/surface/rectangle.h"
 
 namespace varnel_m3g {
 
@@ -33,13 +34,6 @@ struct WindowSurface {
 /// Failures are standard exceptions whose texts are part of the interface.
 class Graphics3D {
  public:
-  /// Four ints: the corner and the size, in pixels.
-  struct Rectangle {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-  };
   /// The properties of the implementation by name, ordered by name; the names that begin with
   /// "support" stand for booleans.
   using Properties = std::map<std::string, int>;
@@ -141,11 +135,12 @@ class Graphics3D {
   Graphics3D() = default;
   ~Graphics3D() = delete;
 
-  void checkBindable(int hints) const;
+  void checkBindable(int newHints) const;
+  void checkTargetAndCamera() const;
   void checkViewportLimits(int width, int height) const;
   void attachTarget(const void* drawable, int width, int height, bool depthBuffer);
   void renderNode(const boost::shared_ptr<Node>& node, const Transform& transform);
-  void enterWorld(const boost::shared_ptr<World>& world);
+  void enterWorld(World& world);
   void loadCamera() const;
 
   Rectangle viewport;
