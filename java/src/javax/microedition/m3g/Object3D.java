@@ -20,6 +20,17 @@ public abstract class Object3D {
         return object == null ? 0 : object.handle;
     }
 
+    /** @throws IllegalArgumentException if the track has been added before */
+    public void addAnimationTrack(AnimationTrack track) {
+        for (int i = getAnimationTrackCount() - 1; i >= 0; i--) {
+            if (getAnimationTrack(i) == track) {
+                throw new IllegalArgumentException(
+                        "attempt to add an AnimationTrack multiple times");
+            }
+        }
+        addAnimationTrackN(handle, track.handle);
+    }
+
     public final int animate(int time) {
         return animateN(handle, time);
     }
@@ -52,12 +63,29 @@ public abstract class Object3D {
         return getReferencesN(handle, references);
     }
 
+    /** @throws IndexOutOfBoundsException if there is no such track */
+    public AnimationTrack getAnimationTrack(int index) {
+        if (index < 0 || index >= getAnimationTrackCount()) {
+            throw new IndexOutOfBoundsException("Object3D::getAnimationTrack index out of range.");
+        }
+        return getAnimationTrackN(handle, index);
+    }
+
+    public int getAnimationTrackCount() {
+        return getAnimationTrackCountN(handle);
+    }
+
     public int getUserID() {
         return getUserIDN(handle);
     }
 
     public Object getUserObject() {
         return getUserObjectN(handle);
+    }
+
+    /** A track that is not there, or null, is ignored. */
+    public void removeAnimationTrack(AnimationTrack track) {
+        removeAnimationTrackN(handle, handleOf(track));
     }
 
     public void setUserID(int userID) {
@@ -68,6 +96,8 @@ public abstract class Object3D {
         setUserObjectN(handle, userObject);
     }
 
+    native void addAnimationTrackN(long handle, long track);
+
     native int animateN(long handle, int time);
 
     native void destroyObject3DN(long handle);
@@ -76,11 +106,17 @@ public abstract class Object3D {
 
     native Object3D findN(long handle, int userID);
 
+    native int getAnimationTrackCountN(long handle);
+
+    native AnimationTrack getAnimationTrackN(long handle, int index);
+
     native int getReferencesN(long handle, Object3D[] references);
 
     native int getUserIDN(long handle);
 
     native Object getUserObjectN(long handle);
+
+    native void removeAnimationTrackN(long handle, long track);
 
     native void setBackReference(long handle);
 
