@@ -1,0 +1,69 @@
+#include "engine/loader/loader.h"
+
+#include <cctype>
+#include <new>
+#include <stdexcept>
+#include <string>
+
+#include "engine/loader/m3g_object_input_stream.h"
+#include "engine/object/object3d.h"
+#include "engine/surface/image2d.h"
+
+namespace varnel_m3g {
+namespace {
+
+bool holds(const std::string& name, const char* extension) {
+  return name.rfind(extension) != std::string::npos;
+}
+
+[[noreturn]] void throwOutOfMemory() {
+  throw std::runtime_error("Loader::load:  Out of memory");
+}
+
+}  // namespace
+
+std::string Loader::lowerCase(const std::string& name) {
+  std::string lower = name;
+  for (char& character : lower) {
+    character = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+  }
+  return lower;
+}
+
+void Loader::load(const char* name, ObjectTable& objects) {
+  try {
+    M3gObjectInputStream stream;
+    objects.reserve(1000);
+    const std::string lower = lowerCase(name);
+    if (holds(lower, ".png")) {
+      objects.push_back(readPNG(name));
+      return;
+    }
+    if (holds(lower, ".jpg") || holds(lower, ".jpeg")) {
+      objects.push_back(readJPEG(name));
+      return;
+    }
+    stream.open(name, std::ios::in | std::ios::binary);
+    if (!stream) {
+      throw std::runtime_error("Loader::load:  Can't load file");
+    }
+    stream.processHeader();
+    stream.dumpHeader();
+    objects.emplace_back();  // index 0, the null reference
+    objects.emplace_back();  // index 1, the file's header
+    while (stream.good()) {
+      readSection(stream, objects);
+    }
+    objects.erase(objects.begin());
+  } catch (const std::bad_alloc&) {
+    throwOutOfMemory();
+  } catch (const std::length_error&) {
+    throwOutOfMemory();
+  }
+}
+
+void Loader::load(const signed char*, int, int, ObjectTable&) {
+  throw std::runtime_error("This version of Loader::load() not implemented");
+}
+
+}  // namespace varnel_m3g
