@@ -3,6 +3,7 @@
 
 #include <jni.h>
 
+#include <algorithm>
 #include <boost/shared_ptr.hpp>
 #include <cstddef>
 #include <memory>
@@ -93,14 +94,18 @@ template <class T>
 using WriteArray = ArrayView<T, T, 0>;
 
 /// An array of handles as the objects that they name; empty where a handle is zero or names an
-/// object of another class.
+/// object of another class. A null array has no data. Behind a shorter array than `least` stand
+/// empty objects.
 template <class T>
 class HandleArray {
  public:
-  HandleArray(JNIEnv* env, jlongArray array)
-      : length(env->GetArrayLength(array)),
-        objects(new boost::shared_ptr<T>[static_cast<std::size_t>(length)]) {
+  HandleArray(JNIEnv* env, jlongArray array, jsize least = 0) {
+    if (array == nullptr) {
+      return;
+    }
     const ReadArray<jlong> handles(env, array);
+    length = handles.size();
+    objects.reset(new boost::shared_ptr<T>[static_cast<std::size_t>(std::max(length, least))]);
     for (jsize i = 0; i < length; ++i) {
       objects[static_cast<std::size_t>(i)] = handleCast<T>(handles[i]);
     }
@@ -113,7 +118,7 @@ class HandleArray {
   jsize size() const { return length; }
 
  private:
-  jsize length;
+  jsize length = 0;
   std::unique_ptr<boost::shared_ptr<T>[]> objects;
 };
 

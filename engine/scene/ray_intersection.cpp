@@ -26,6 +26,9 @@ RayIntersection::RayIntersection() {
 RayIntersection::~RayIntersection() = default;
 
 void RayIntersection::getRay(float* out) const {
+  if (out == nullptr) {
+    throw std::invalid_argument("RayIntersection::getRay called with null array");
+  }
   std::copy(rayOrigin, rayOrigin + 3, out);
   std::copy(rayDirection, rayDirection + 3, out + 3);
 }

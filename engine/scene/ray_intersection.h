@@ -15,7 +15,7 @@ class RayIntersection {
   ~RayIntersection();
 
   const boost::shared_ptr<Node>& getIntersected() const { return intersected; }
-  /// 6 floats: origin, then direction.
+  /// 6 floats: origin, then direction. Throws std::invalid_argument for null.
   void getRay(float* out) const;
   /// The ray parameter of the hit; 0 means no hit.
   float getDistance() const { return distance; }
