@@ -55,8 +55,8 @@ class VertexArray : public Object3D {
   /// The same into an array of at least getComponentCount() floats.
   void readVertex(int index, float* out) const;
 
-  /// Turns the storage of an 8-bit array into shorts, each byte taken as unsigned. Does nothing to
-  /// an array that is widened already or holds shorts anyway.
+  /// Turns the storage into shorts, each byte of it taken as unsigned. Does nothing to an array
+  /// that is widened already.
   void widenTo16Bit();
   /// Makes the RGBA form of an array of three-byte records, with an alpha of 255.
   void expandToRgba();
