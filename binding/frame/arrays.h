@@ -10,7 +10,7 @@
 
 #include "binding/frame/frame.h"
 
-// Views of Java arrays that last as long as the native's block. The Java side has tested for null.
+// Views of Java arrays that last as long as the native's block.
 
 namespace varnel_m3g {
 
@@ -53,7 +53,8 @@ struct ArrayAccess<jfloat> {
   static constexpr auto release = &JNIEnv::ReleaseFloatArrayElements;
 };
 
-/// The elements of a Java array, released with `mode` at the end of the block.
+/// The elements of a Java array, released with `mode` at the end of the block; for a null array a
+/// null pointer and a size of 0.
 template <class T, class Element, jint mode>
 class ArrayView {
  public:
@@ -62,8 +63,8 @@ class ArrayView {
   ArrayView(JNIEnv* env, Array array)
       : env(env),
         array(array),
-        length(env->GetArrayLength(array)),
-        elements((env->*ArrayAccess<T>::get)(array, nullptr)) {}
+        length(array == nullptr ? 0 : env->GetArrayLength(array)),
+        elements(array == nullptr ? nullptr : (env->*ArrayAccess<T>::get)(array, nullptr)) {}
 
   ~ArrayView() {
     if (elements != nullptr) {

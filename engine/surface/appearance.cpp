@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <boost/pointer_cast.hpp>
-#include <cstdio>
 #include <iterator>
 #include <stdexcept>
+#include <string>
 
 #include "engine/object/engine_limits.h"
 #include "engine/object/log.h"
@@ -143,16 +143,14 @@ void Appearance::setLayer(int newLayer) {
 }
 
 void Appearance::setTexture(int index, const boost::shared_ptr<Texture2D>& texture) {
-  static char message[50];
-  checkTextureIndex(index, message);
+  checkTextureIndex(index);
   if (index >= 0 && index < getTextureUnitCount()) {
     textures[static_cast<std::size_t>(index)] = texture;
   }
 }
 
 boost::shared_ptr<Texture2D> Appearance::getTexture(int index) const {
-  static char message[50];
-  checkTextureIndex(index, message);
+  checkTextureIndex(index);
   return textureAt(index);
 }
 
@@ -163,11 +161,10 @@ const boost::shared_ptr<Texture2D>& Appearance::textureAt(int unit) const {
   return textures[static_cast<std::size_t>(unit)];
 }
 
-void Appearance::checkTextureIndex(int index, char (&buffer)[50]) const {
+void Appearance::checkTextureIndex(int index) const {
   if (index > getTextureUnitCount()) {
-    std::snprintf(buffer, sizeof buffer, "Index out texture units boundary: %d %d", index,
-                  getTextureUnitCount());
-    throw std::out_of_range(buffer);
+    throw std::out_of_range("Index out texture units boundary: " + std::to_string(index) + " " +
+                            std::to_string(getTextureUnitCount()));
   }
 }
 

@@ -88,7 +88,7 @@ class Appearance : public Object3D {
   };
   using MeshList = std::list<MeshReference>;
 
-  void checkTextureIndex(int index, char (&buffer)[50]) const;
+  void checkTextureIndex(int index) const;
   MeshList::iterator dropMesh(MeshList::iterator mesh);
   void dropDeadMeshes();
 
