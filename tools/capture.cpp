@@ -104,9 +104,8 @@ bool readWindow(Display* display, Window window, Picture* picture) {
       attributes.map_state != IsViewable) {
     return false;
   }
-  XImage* image =
-      XGetImage(display, window, 0, 0, static_cast<unsigned>(attributes.width),
-                static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
+  XImage* image = XGetImage(display, window, 0, 0, static_cast<unsigned>(attributes.width),
+                            static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
   if (image == nullptr) {
     return false;
   }
