@@ -19,4 +19,8 @@ void setEsImageLookup(const EsImage* (*lookup)(const void* handle));
 /// The pixels of the image with that handle; null if there is none.
 const EsImage* findEsImage(const void* handle);
 
+/// Uploads the pixels of the image with that handle to the texture bound to GL_TEXTURE_2D; nothing
+/// for a handle that is no image. The unpack alignment is left at `unpackAlignment`.
+void uploadEsImage(const void* handle, int unpackAlignment);
+
 #endif  // VARNEL_GLES_ES_IMAGE_H

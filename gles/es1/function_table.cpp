@@ -1,0 +1,55 @@
+#include "gles/function_table.h"
+
+#include <GLES/gl.h>
+
+#include "gles/driver/driver.h"
+#include "gles/es1/context_state.h"
+#include "gles/pixel_rectangle.h"
+
+namespace {
+
+using namespace gles;
+using es1::current;
+
+void doNothing() {}
+
+void* createState() {
+  return es1::createContextState();
+}
+
+void destroyState(void* state) {
+  es1::destroyContextState(static_cast<es1::ContextState*>(state));
+}
+
+void setCurrentState(void* state) {
+  current = static_cast<es1::ContextState*>(state);
+}
+
+void drawRectangle(int width, int height, unsigned format, unsigned type, int alignment,
+                   const void* pixels) {
+  if (current) {
+    gles::drawPixelRectangle({width, height, format, type, alignment, pixels},
+                             current->buffers.boundArrayBuffer, es1::unitCount());
+  }
+}
+
+int packAlignment() {
+  return current ? current->packAlignment : 4;
+}
+
+void getTexLevelParameter(unsigned target, int level, unsigned name, int* values) {
+  driver.glGetTexLevelParameteriv(target, level, name, values);
+}
+
+void getTexImage(unsigned target, int level, unsigned format, unsigned type, void* pixels) {
+  driver.glGetTexImage(target, level, format, type, pixels);
+}
+
+}  // namespace
+
+void fillEs1FunctionTable(GlFunctionTable* table, bool) {
+  *table = {doNothing,     createState,   destroyState,  setCurrentState,
+            drawRectangle, packAlignment, glFinish,      glPixelStorei,
+            glReadPixels,  glGetIntegerv, glBindTexture, getTexLevelParameter,
+            getTexImage};
+}
