@@ -82,6 +82,15 @@ class VertexArray : public Object3D {
   /// The stored values, vertex after vertex; only the form of getComponentType() has meaning.
   const signed char* byteData() const;
   const short* shortData() const;
+  /// The same for writing, which marks the array as changed.
+  signed char* writableBytes() {
+    dirty = true;
+    return reinterpret_cast<signed char*>(bytes.get());
+  }
+  short* writableShorts() {
+    dirty = true;
+    return shorts();
+  }
   /// Four bytes per vertex, or null where expandToRgba has not been called.
   const unsigned char* rgbaCopy() const { return rgbaCopy_.get(); }
   /// The values are held as shorts although the component size is 1.

@@ -66,6 +66,8 @@ class MorphingMesh : public Mesh {
   bool blendPending = true;
   std::vector<float> weights;  // one per target
   bool weightsChanged = true;
+  /// The arrays that blends write, by selector; never the application's.
+  std::vector<boost::shared_ptr<VertexArray>> blendedArrays;
   std::vector<VertexArray*> gathered;  // scratch of one attribute's blend
 };
 

@@ -76,17 +76,21 @@ class SkinnedMesh : public Mesh {
     int numVertices;
   };
 
-  /// The steps after the mesh itself is set up.
+  /// The steps of the factories once the mesh itself is set up.
   void setSkeleton(const boost::shared_ptr<Group>& newSkeleton);
+  /// Makes the group the only child, with a bone group for each of its nodes.
   void attachSkeleton(const boost::shared_ptr<Group>& newSkeleton);
   void initBoneGroup(const boost::shared_ptr<Node>& node);
-  /// Makes the private buffer, with arrays of its own.
+  /// Sizes the tables of weights, all zero, and makes the private buffer.
   void prepareWeights();
   BoneGroup* findBoneGroup(const boost::shared_ptr<Node>& bone) const;
   float inverseWeightOf(int vertex) const;
 
-  /// Shares colours and texture coordinates with the source and copies what is not bound.
+  /// Shares colours and texture coordinates with the source, copies the vertices that follow no
+  /// bone and clears the others.
   void prepareRenderBuffer();
+  void copyUnbound(const boost::shared_ptr<VertexArray>& source,
+                   const boost::shared_ptr<VertexArray>& target) const;
   void accumulateBone(const Transform& bone, int firstVertex, int numVertices, int weight);
   /// Writes the table of weights to the standard error stream.
   void printWeights() const;
