@@ -24,6 +24,11 @@ endif()
 add_library(varnel_options INTERFACE)
 target_include_directories(varnel_options INTERFACE "${CMAKE_SOURCE_DIR}")
 target_compile_definitions(varnel_options INTERFACE _GLIBCXX_ASSERTIONS EGL_NO_X11)
+if(WIN32)
+  # The published headers name no windows.h types and import nothing; the oldest Windows is 7.
+  target_compile_definitions(varnel_options INTERFACE
+    EGL_NO_PLATFORM_SPECIFIC_TYPES KHRONOS_STATIC _WIN32_WINNT=0x0601 __USE_MINGW_ANSI_STDIO=1)
+endif()
 # Floats are widened, computed in double and rounded at each store; nothing may contract or reorder.
 target_compile_options(varnel_options INTERFACE
   -Wall -Wextra -Wpedantic -Werror -ffp-contract=off)
