@@ -43,7 +43,7 @@ struct PortPixmapLayout {
   std::uint32_t redMask = 0, greenMask = 0, blueMask = 0;  ///< all 0: plain
 };
 
-/// What a pbuffer is to be, beside its format: the values are those of EGL.
+/// What a pbuffer is to be, beside its format. The texture values are those of EGL, 0 for none.
 struct PortPbufferRequest {
   int width = 0, height = 0;
   int textureFormat = 0;
@@ -56,6 +56,9 @@ struct PortPbufferRequest {
 /// The connection for a native display, 0 for the default one; opened at the first call and kept.
 /// Null where there is none. The port trusts a native display other than 0.
 PortConnection* portConnect(PortNativeDisplay native);
+/// Frees what the port made on the connection. The default one stays open for the next use; of any
+/// other the native display is forgotten.
+void portDisconnect(PortConnection* connection);
 
 // --- First initialisation ----------------------------------------------------------------------
 
@@ -110,7 +113,7 @@ bool portSetMipmapLevel(PortConnection* connection, PortDrawable* drawable, int 
 
 // --- Native bitmaps ----------------------------------------------------------------------------
 
-/// False if there is no such bitmap.
+/// False if there is no such bitmap or its pixels have no form that can be told.
 bool portPixmapLayout(PortConnection* connection, PortNativePixmap pixmap,
                       PortPixmapLayout* layout);
 /// Copies all rows of the bitmap, in the layout's form, into or out of `rows`.

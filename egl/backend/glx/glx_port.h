@@ -1,0 +1,81 @@
+#ifndef VARNEL_EGL_BACKEND_GLX_GLX_PORT_H
+#define VARNEL_EGL_BACKEND_GLX_GLX_PORT_H
+
+#include "egl/backend/port.h"
+// X11's headers come after those of the project and the standard library: their macros would
+// break them.
+#include <string>
+#include <vector>
+
+#include <GL/glx.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#undef None
+#undef Bool
+#undef Status
+#undef Success
+#undef Always
+
+/// One X display with what the port keeps for it.
+struct PortConnection {
+  Display* display = nullptr;
+  bool own = false;   ///< opened by the port, on which nobody else makes requests
+  bool dead = false;  ///< the X server has gone or has closed the connection
+
+  std::vector<GLXFBConfig> configs;
+  std::vector<PortPixelFormat> formats;
+  GLXContext shareRoot = nullptr;  ///< never current; all contexts share its objects
+
+  Window probeWindow = 0;
+  Colormap probeColormap = 0;
+  GLXContext probeContext = nullptr;
+  std::string adapterName;
+
+  PFNGLXSWAPINTERVALEXTPROC swapIntervalExt = nullptr;
+  PFNGLXSWAPINTERVALMESAPROC swapIntervalMesa = nullptr;
+  PFNGLXSWAPINTERVALSGIPROC swapIntervalSgi = nullptr;
+};
+
+struct PortContext {
+  GLXContext context = nullptr;
+};
+
+struct PortDrawable {
+  GLXDrawable id = 0;
+  Window window = 0;  ///< 0 for a pbuffer
+};
+
+/// Catches the X errors of one connection between its construction and its destruction, and brings
+/// the former error handler back. Errors of other displays go to the former handler. Traps nest.
+class XErrorTrap {
+ public:
+  explicit XErrorTrap(PortConnection& connection);
+  ~XErrorTrap();
+  XErrorTrap(const XErrorTrap&) = delete;
+  XErrorTrap& operator=(const XErrorTrap&) = delete;
+
+  /// Waits for the server's answers; true if any request since the construction was refused.
+  bool failed();
+  /// The code of the last error, 0 for none.
+  int errorCode() const;
+
+ private:
+  PortConnection& connection;
+  XErrorTrap* outer;
+  XErrorHandler formerHandler;
+  XErrorHandler formerChain;
+  int code = 0;
+
+  friend int handleXError(Display* display, XErrorEvent* event);
+};
+
+/// While a context of an own connection is current, requests that the OpenGL library makes between
+/// two calls of the port must not end the process when the window has gone: errors of that
+/// connection are swallowed from the first call to the second. Others go to the former handler.
+void guardXErrors(PortConnection& connection);
+void unguardXErrors();
+
+/// True if the window was made by the port and its user has closed it.
+bool isClosedNativeWindow(Window window);
+
+#endif

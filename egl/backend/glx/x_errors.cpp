@@ -1,0 +1,82 @@
+#include "egl/backend/glx/glx_port.h"
+
+namespace {
+
+XErrorTrap* innermostTrap = nullptr;
+PortConnection* guarded = nullptr;
+XErrorHandler chain = nullptr;
+
+/// Waits until the server has answered every request so far.
+void settle(const PortConnection& connection) {
+  if (!connection.dead &&
+      LastKnownRequestProcessed(connection.display) + 1 != NextRequest(connection.display)) {
+    XSync(connection.display, False);
+  }
+}
+
+}  // namespace
+
+int handleXError(Display* display, XErrorEvent* event) {
+  for (XErrorTrap* trap = innermostTrap; trap; trap = trap->outer) {
+    if (trap->connection.display == display) {
+      trap->code = event->error_code;
+      return 0;
+    }
+  }
+  if (guarded && guarded->display == display) {
+    return 0;
+  }
+  return chain ? chain(display, event) : 0;
+}
+
+XErrorTrap::XErrorTrap(PortConnection& connection) : connection(connection), outer(innermostTrap) {
+  if (!connection.own) {
+    // Errors that the display's owner has pending are the owner's.
+    settle(connection);
+  }
+  formerHandler = XSetErrorHandler(handleXError);
+  formerChain = chain;
+  if (formerHandler != handleXError) {
+    chain = formerHandler;
+  }
+  innermostTrap = this;
+}
+
+XErrorTrap::~XErrorTrap() {
+  settle(connection);
+  innermostTrap = outer;
+  XSetErrorHandler(formerHandler);
+  chain = formerChain;
+}
+
+bool XErrorTrap::failed() {
+  settle(connection);
+  return code != 0 || connection.dead;
+}
+
+int XErrorTrap::errorCode() const {
+  return code;
+}
+
+void guardXErrors(PortConnection& connection) {
+  if (!connection.own || guarded == &connection) {
+    return;
+  }
+  guarded = &connection;
+  XErrorHandler former = XSetErrorHandler(handleXError);
+  if (former != handleXError) {
+    chain = former;
+  }
+}
+
+void unguardXErrors() {
+  if (!guarded) {
+    return;
+  }
+  guarded = nullptr;
+  XErrorHandler present = XSetErrorHandler(chain);
+  if (present != handleXError) {
+    // Somebody else has taken over since: theirs stays.
+    XSetErrorHandler(present);
+  }
+}
