@@ -1,6 +1,7 @@
 #include "engine/math/transform.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -20,6 +21,15 @@ void transposeInPlace(float* m) {
       std::swap(m[4 * row + column], m[4 * column + row]);
     }
   }
+}
+
+// One row of a column-major matrix times a column.
+float productElement(const float* matrix, const float* column, int row) {
+  double sum = 0.0;
+  for (int k = 0; k < 4; ++k) {
+    sum += static_cast<double>(matrix[4 * k + row]) * column[k];
+  }
+  return static_cast<float>(sum);
 }
 
 // Replaces `a` by its LU decomposition with scaled partial pivoting. `pivots` receives the row that
@@ -163,11 +173,12 @@ void Transform::postMultiply(const Transform& transform) {
   std::copy_n(elements, 16, old);
   for (int column = 0; column < 4; ++column) {
     for (int row = 0; row < 4; ++row) {
-      double sum = 0.0;
-      for (int k = 0; k < 4; ++k) {
-        sum += static_cast<double>(old[4 * k + row]) * transform.elements[4 * column + k];
+      elements[4 * column + row] = productElement(old, transform.elements + 4 * column, row);
+      if (this == &transform) {
+        // The next sum sees this element: GCC 12 would otherwise move the loads of a whole column
+        // in front of its stores.
+        std::atomic_signal_fence(std::memory_order_seq_cst);
       }
-      elements[4 * column + row] = static_cast<float>(sum);
     }
   }
   identity = false;
