@@ -105,6 +105,13 @@ public class Transform {
         transformN(handle, vectors);
     }
 
+    public void transform(VertexArray in, float[] out, boolean w) {
+        if (out == null) {
+            throw new NullPointerException();
+        }
+        transformN(handle, in.handle, out, w);
+    }
+
     public void transpose() {
         transposeN(handle);
     }

@@ -62,6 +62,13 @@ public abstract class Transformable extends Object3D {
      * @throws IllegalArgumentException if this is a node and the matrix is not affine
      */
     public void setTransform(Transform transform) {
+        if (transform != null && this instanceof Node) {
+            float[] matrix = new float[16];
+            transform.get(matrix);
+            if (matrix[12] != 0 || matrix[13] != 0 || matrix[14] != 0 || matrix[15] != 1) {
+                throw new IllegalArgumentException("Non-affine transform applied to Node");
+            }
+        }
         setTransformN(handle, Transform.handleOf(transform));
     }
 
