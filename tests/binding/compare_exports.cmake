@@ -1,0 +1,26 @@
+# Compares the symbols that a library defines for others with a list, both ways.
+# Arguments: LIBRARY, NATIVES (one name per line), NM.
+execute_process(COMMAND "${NM}" -D --defined-only "${LIBRARY}"
+  OUTPUT_VARIABLE table RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "${NM} cannot read ${LIBRARY}")
+endif()
+string(REGEX MATCHALL "[^\n]+" table "${table}")
+set(defined "")
+foreach(line IN LISTS table)
+  string(REGEX REPLACE "^.* " "" name "${line}")
+  list(APPEND defined "${name}")
+endforeach()
+file(STRINGS "${NATIVES}" wanted)
+
+set(missing ${wanted})
+list(REMOVE_ITEM missing ${defined})
+set(surplus ${defined})
+list(REMOVE_ITEM surplus ${wanted})
+list(LENGTH wanted count)
+if(missing OR surplus)
+  list(JOIN missing "\n  " missing)
+  list(JOIN surplus "\n  " surplus)
+  message(FATAL_ERROR "Not exported:\n  ${missing}\nExported beside the natives:\n  ${surplus}")
+endif()
+message(STATUS "${count} natives, and nothing else, are exported")
