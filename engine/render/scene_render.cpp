@@ -11,8 +11,8 @@
 #include "engine/render/render_state.h"
 #include "engine/render/vertex_submission.h"
 #include "engine/scene/camera.h"
-#include "engine/scene/light.h"
 #include "engine/scene/mesh.h"
+#include "engine/scene/sprite3d.h"
 #include "engine/scene/world.h"
 #include "engine/surface/appearance.h"
 #include "engine/surface/material.h"
@@ -37,9 +37,10 @@ class NodeSnapshot {
   }
 };
 
-/// Groups, meshes and sprites may be rendered, although a sprite leaves the picture as it is.
+/// A sprite may be rendered although it leaves the picture as it is.
 bool isDrawable(const Node* node) {
-  return !dynamic_cast<const Camera*>(node) && !dynamic_cast<const Light*>(node);
+  return dynamic_cast<const Group*>(node) || dynamic_cast<const Mesh*>(node) ||
+         dynamic_cast<const Sprite3D*>(node);
 }
 
 /// Draws the submeshes of a mesh that use the appearance in force.
