@@ -13,7 +13,12 @@ namespace varnel_m3g {
 /// and its context. They are made at the first bind and live to process end.
 class WindowTarget {
  public:
+  /// The one that the natives bind.
   static WindowTarget& get();
+
+  WindowTarget() = default;
+  WindowTarget(const WindowTarget&) = delete;
+  WindowTarget& operator=(const WindowTarget&) = delete;
 
   /// Makes the window, once; after a failure no further attempt is made.
   void initialise();
@@ -36,8 +41,6 @@ class WindowTarget {
   void present();
 
  private:
-  WindowTarget() = default;
-
   EGLDisplay display = EGL_NO_DISPLAY;
   EGLConfig config = nullptr;
   EGLNativeWindowType window = 0;
