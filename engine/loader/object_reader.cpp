@@ -16,6 +16,8 @@
 #include "engine/scene/group.h"
 #include "engine/scene/light.h"
 #include "engine/scene/mesh.h"
+#include "engine/scene/morphing_mesh.h"
+#include "engine/scene/skinned_mesh.h"
 #include "engine/scene/world.h"
 #include "engine/surface/appearance.h"
 #include "engine/surface/background.h"
@@ -72,6 +74,10 @@ boost::shared_ptr<Object3D> Loader::readObject(M3gObjectInputStream& stream, Obj
       return loadRecord<Material>(stream, objects);
     case 14:
       return loadRecord<Mesh>(stream, objects);
+    case 15:
+      return loadRecord<MorphingMesh>(stream, objects);
+    case 16:
+      return loadRecord<SkinnedMesh>(stream, objects);
     case 17:
       return loadRecord<Texture2D>(stream, objects);
     case 19:

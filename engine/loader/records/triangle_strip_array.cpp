@@ -15,13 +15,14 @@
 namespace varnel_m3g {
 namespace {
 
+/// The values as Unsigned ones; null for null.
 template <class Unsigned, class Element>
-std::unique_ptr<int[]> widened(const std::unique_ptr<Element[]>& values, unsigned count) {
+std::unique_ptr<int[]> widened(const Element* values, unsigned count) {
   if (values == nullptr) {
     return nullptr;
   }
   std::unique_ptr<int[]> wide(new int[count]);
-  std::transform(values.get(), values.get() + count, wide.get(),
+  std::transform(values, values + count, wide.get(),
                  [](Element value) { return static_cast<Unsigned>(value); });
   return wide;
 }
@@ -46,12 +47,16 @@ void TriangleStripArray::load(M3gObjectInputStream& stream, ObjectTable& table) 
     case 128:
       indices = stream.readIntArray(indexCount);
       break;
-    case 129:
-      indices = widened<unsigned char>(stream.readByteArray(indexCount), indexCount);
+    case 129: {
+      const std::unique_ptr<unsigned char[]> bytes = stream.readByteArray(indexCount);
+      indices = widened<unsigned char>(bytes.get(), indexCount);
       break;
-    case 130:
-      indices = widened<unsigned short>(stream.readShortArray(indexCount), indexCount);
+    }
+    case 130: {
+      const std::unique_ptr<short[]> shorts = stream.readShortArray(indexCount);
+      indices = widened<unsigned short>(shorts.get(), indexCount);
       break;
+    }
     default:
       throw std::runtime_error("m3g.TriangleStripArray.load() --  invalid encoding");
   }
