@@ -16,6 +16,9 @@ constexpr unsigned VERTEX_PROGRAM_POINT_SIZE = 0x8642;
 constexpr unsigned MAX_VERTEX_UNIFORM_COMPONENTS = 0x8B4A;
 constexpr unsigned MAX_FRAGMENT_UNIFORM_COMPONENTS = 0x8B49;
 constexpr unsigned MAX_VARYING_FLOATS = 0x8B4B;
+constexpr unsigned CURRENT_PROGRAM = 0x8B8D;
+constexpr unsigned FRAMEBUFFER = 0x8D40;
+constexpr unsigned FRAMEBUFFER_BINDING = 0x8CA6;
 
 }  // namespace gles::desktop
 

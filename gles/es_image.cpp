@@ -17,15 +17,17 @@ const EsImage* findEsImage(const void* handle) {
   return imageLookup ? imageLookup(handle) : nullptr;
 }
 
-void uploadEsImage(const void* handle, int unpackAlignment) {
+void uploadEsImage(const void* handle) {
   using namespace gles;
   const EsImage* image = findEsImage(handle);
   if (!image) {
     return;
   }
+  int alignment = 4;
+  driver.glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
   // Rows of 32-bit words: an alignment of 8 would look for gaps that are not there.
   driver.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
   driver.glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, image->width, image->height, 0, desktop::BGRA,
                       desktop::UNSIGNED_INT_8_8_8_8_REV, image->pixels);
-  driver.glPixelStorei(GL_UNPACK_ALIGNMENT, unpackAlignment);
+  driver.glPixelStorei(GL_UNPACK_ALIGNMENT, alignment);
 }

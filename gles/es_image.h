@@ -20,7 +20,7 @@ void setEsImageLookup(const EsImage* (*lookup)(const void* handle));
 const EsImage* findEsImage(const void* handle);
 
 /// Uploads the pixels of the image with that handle to the texture bound to GL_TEXTURE_2D; nothing
-/// for a handle that is no image. The unpack alignment is left at `unpackAlignment`.
-void uploadEsImage(const void* handle, int unpackAlignment);
+/// for a handle that is no image.
+void uploadEsImage(const void* handle);
 
 #endif  // VARNEL_GLES_ES_IMAGE_H

@@ -55,6 +55,39 @@ void setEverythingPassing(unsigned units) {
   driver.glClientActiveTexture(GL_TEXTURE0);
 }
 
+// For the length of a block no program is in use, and the surface is what is drawn on. Only OpenGL
+// ES 2.0 has it otherwise, and attribute stacks do not keep either.
+class SurfaceOfFixedFunction {
+ public:
+  SurfaceOfFixedFunction() {
+    if (driver.glUseProgram) {
+      driver.glGetIntegerv(desktop::CURRENT_PROGRAM, &program_);
+    }
+    if (driver.glBindFramebufferEXT) {
+      driver.glGetIntegerv(desktop::FRAMEBUFFER_BINDING, &framebuffer_);
+    }
+    change(0, 0);
+  }
+  SurfaceOfFixedFunction(const SurfaceOfFixedFunction&) = delete;
+  SurfaceOfFixedFunction& operator=(const SurfaceOfFixedFunction&) = delete;
+  ~SurfaceOfFixedFunction() {
+    change(static_cast<unsigned>(program_), static_cast<unsigned>(framebuffer_));
+  }
+
+ private:
+  void change(unsigned program, unsigned framebuffer) const {
+    if (program_) {
+      driver.glUseProgram(program);
+    }
+    if (framebuffer_) {
+      driver.glBindFramebufferEXT(desktop::FRAMEBUFFER, framebuffer);
+    }
+  }
+
+  int program_ = 0;
+  int framebuffer_ = 0;
+};
+
 GLuint makeTexture(const PixelRectangle& rectangle, int sideX, int sideY) {
   GLuint texture = 0;
   driver.glPixelStorei(GL_UNPACK_ALIGNMENT, rectangle.alignment);
@@ -80,11 +113,13 @@ void drawPixelRectangle(const PixelRectangle& rectangle, unsigned boundArrayBuff
   if (rectangle.width <= 0 || rectangle.height <= 0 || !rectangle.pixels) {
     return;
   }
+  const SurfaceOfFixedFunction surface;
   if (boundArrayBuffer) {
     driver.glBindBuffer(GL_ARRAY_BUFFER, 0);
   }
   driver.glPushAttrib(desktop::ALL_ATTRIB_BITS);
   driver.glPushClientAttrib(desktop::CLIENT_ALL_ATTRIB_BITS);
+  driver.glDisableVertexAttribArray(0);  // It would stand before the vertices.
   setEverythingPassing(units);
   const int sideX = textureSide(rectangle.width);
   const int sideY = textureSide(rectangle.height);

@@ -41,7 +41,7 @@ void GL_APIENTRY glCompressedTexSubImage2D(GLenum target, GLint level, GLint xof
 
 void GL_APIENTRY glEGLImageTargetTexture2DOES(GLenum target, GLeglImageOES image) {
   if (current && target == GL_TEXTURE_2D) {
-    uploadEsImage(image, current->unpackAlignment);
+    uploadEsImage(image);
   }
 }
 

@@ -28,40 +28,11 @@ void setCurrentState(void* state) {
   es2::current = static_cast<es2::ContextState*>(state);
 }
 
-// The fixed function draws it: no program, no generic attributes, the surface's own framebuffer.
 void drawRectangle(int width, int height, unsigned format, unsigned type, int alignment,
                    const void* pixels) {
-  if (!es2::current) {
-    return;
-  }
-  int program = 0;
-  int framebuffer = 0;
-  if (driver.glUseProgram) {
-    driver.glGetIntegerv(GL_CURRENT_PROGRAM, &program);
-    driver.glUseProgram(0);
-  }
-  if (driver.glBindFramebufferEXT) {
-    driver.glGetIntegerv(GL_FRAMEBUFFER_BINDING, &framebuffer);
-    driver.glBindFramebufferEXT(GL_FRAMEBUFFER, 0);
-  }
-  const std::deque<es2::AttributeState>& attributes = es2::current->attributes;
-  for (unsigned i = 0; i < attributes.size(); ++i) {
-    if (attributes[i].enabled) {
-      driver.glDisableVertexAttribArray(i);
-    }
-  }
-  gles::drawPixelRectangle({width, height, format, type, alignment, pixels},
-                           es2::current->buffers.boundArrayBuffer, 1);
-  for (unsigned i = 0; i < attributes.size(); ++i) {
-    if (attributes[i].enabled) {
-      driver.glEnableVertexAttribArray(i);
-    }
-  }
-  if (driver.glBindFramebufferEXT) {
-    driver.glBindFramebufferEXT(GL_FRAMEBUFFER, static_cast<unsigned>(framebuffer));
-  }
-  if (driver.glUseProgram) {
-    driver.glUseProgram(static_cast<unsigned>(program));
+  if (es2::current) {
+    gles::drawPixelRectangle({width, height, format, type, alignment, pixels},
+                             es2::current->buffers.boundArrayBuffer, 1);
   }
 }
 

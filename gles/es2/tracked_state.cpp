@@ -67,7 +67,7 @@ void glCompressedTexSubImage2D(GLenum target, GLint level, GLint xoffset, GLint 
 
 void glEGLImageTargetTexture2DOES(GLenum target, GLeglImageOES image) {
   if (current && target == GL_TEXTURE_2D) {
-    uploadEsImage(image, current->unpackAlignment);
+    uploadEsImage(image);
   }
 }
 
