@@ -47,9 +47,9 @@ TEST(ClientArrays, ShortVerticesAreForwardedAsTheyAre) {
   EXPECT_EQ(recording.lastAddress("glVertexPointer"), vertices);
   glEnableClientState(GL_VERTEX_ARRAY);
   glDrawArrays(GL_LINES, 0, 2);
-  EXPECT_THAT(recording.take(), ElementsAre("glVertexPointer(2, GL_SHORT, 0, <ptr>)",
-                                            "glEnableClientState(GL_VERTEX_ARRAY)",
-                                            "glDrawArrays(GL_LINES, 0, 2)"));
+  EXPECT_THAT(recording.take(),
+              ElementsAre("glVertexPointer(2, GL_SHORT, 0, <ptr>)",
+                          "glEnableClientState(GL_VERTEX_ARRAY)", "glDrawArrays(GL_LINES, 0, 2)"));
 }
 
 }  // namespace
