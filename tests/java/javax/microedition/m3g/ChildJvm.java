@@ -1,5 +1,6 @@
 package javax.microedition.m3g;
 
+import java.io.File;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -33,22 +34,23 @@ final class ChildJvm {
 
     /** Runs main of this class with the library path and the class path of this process. */
     static Result run(Class<?> main, String... arguments) throws IOException, InterruptedException {
-        return run(List.of("-Xcheck:jni"), main, arguments);
+        return runBefore("", main, arguments);
     }
 
-    /** The same with other options for the virtual machine. */
-    static Result run(List<String> options, Class<?> main, String... arguments)
+    /** The same with classes of this folder, unless it is empty, in front of the class path. */
+    static Result runBefore(String classes, Class<?> main, String... arguments)
             throws IOException, InterruptedException {
         List<String> command = new ArrayList<>();
         command.add(Path.of(System.getProperty("java.home"), "bin", "java").toString());
-        command.addAll(options);
+        command.add("-Xcheck:jni");
         for (String property : List.of("java.library.path", "varnel.source", "varnel.build")) {
             if (System.getProperty(property) != null) {
                 command.add("-D" + property + "=" + System.getProperty(property));
             }
         }
         command.add("-cp");
-        command.add(System.getProperty("java.class.path"));
+        command.add((classes.isEmpty() ? "" : classes + File.pathSeparator)
+                + System.getProperty("java.class.path"));
         command.add(main.getName());
         command.addAll(List.of(arguments));
         Path folder = Files.createTempDirectory("child-jvm");
