@@ -91,12 +91,12 @@ struct Geometry {
   int strips;
 };
 
-Geometry addShape(Scene& scene, const Shape& shape, int colors = 0) {
+Geometry addShape(Scene& scene, const Shape& shape) {
   const int positions = addShortArray(scene, shape.positions, 3);
   const int normals = addByteArray(scene, shape.normals, 3);
   const int texCoords = addShortArray(scene, shape.texCoords, 2);
   const int vertices =
-      addVertexBuffer(scene, positions, shapeScale, normals, colors, texCoords, shapeScale);
+      addVertexBuffer(scene, positions, shapeScale, normals, 0, texCoords, shapeScale);
   return {vertices, addStrips(scene, shape.indices, shape.stripLengths)};
 }
 
@@ -118,14 +118,14 @@ int addTexture(Scene& scene, int image) {
 }
 
 int addMaterial(Scene& scene, std::uint32_t ambient, std::uint32_t diffuse, std::uint32_t emissive,
-                std::uint32_t specular, float shininess, bool tracksColors = false) {
+                std::uint32_t specular, float shininess) {
   return scene.add(record(MATERIAL)
                        .rgb(ambient)
                        .rgba(0xFF000000 | diffuse)
                        .rgb(emissive)
                        .rgb(specular)
                        .float32(shininess)
-                       .boolean(tracksColors));
+                       .boolean(false));
 }
 
 struct Look {
@@ -261,17 +261,6 @@ Geometry addGround(Scene& scene) {
   return {vertices, addStrips(scene, indices, lengths)};
 }
 
-/// A warm foot and a cool head for each vertex of a column.
-std::vector<int> columnColors(const Shape& shape, float height) {
-  std::vector<int> colors;
-  for (int i = 0; i < shape.vertexCount(); ++i) {
-    const double up = shape.positions[static_cast<std::size_t>(3 * i + 1)] * shapeScale / height;
-    colors.insert(colors.end(), {static_cast<int>(216 - 60 * up), static_cast<int>(168 + 30 * up),
-                                 static_cast<int>(132 + 104 * up)});
-  }
-  return colors;
-}
-
 /// The showpiece: a turning ring, a bouncing ball and a circling lamp before columns in the mist.
 Scene showpiece() {
   Scene scene;
@@ -296,20 +285,17 @@ Scene showpiece() {
   const int ground =
       addMesh(scene, placed(MESH, {0, 0, 0}), addGround(scene), addAppearance(scene, groundLook));
 
-  // The columns track their vertex colours.
-  constexpr float columnHeight = 6.5f;
-  const Shape columnShape = column(0.62f, columnHeight, 20, 6);
-  const int colors = addByteArray(scene, columnColors(columnShape, columnHeight), 3);
-  const Geometry columnGeometry = addShape(scene, columnShape, colors);
+  const Geometry columnGeometry = addShape(scene, column(0.62f, 6.5f, 24, 6));
   Look columnLook;
   columnLook.fog = fog;
   columnLook.polygonMode = smooth;
-  columnLook.material = addMaterial(scene, 0x808080, 0xFFFFFF, 0, 0x202020, 12, true);
+  columnLook.material = addMaterial(scene, 0x909090, 0xFFFFFF, 0, 0x202020, 12);
+  columnLook.texture = addTexture(scene, addImage(scene, 99, flutes(64)));
   const int columnAppearance = addAppearance(scene, columnLook);
   std::vector<int> columns;
   for (int row = 0; row < 7; ++row) {
     for (const float side : {-1.0f, 1.0f}) {
-      columns.push_back(addMesh(scene, placed(MESH, {side * 6.5f, 0, 1.5f - 6.0f * row}),
+      columns.push_back(addMesh(scene, placed(MESH, {side * 6.5f, 0, -1.5f - 6.0f * row}),
                                 columnGeometry, columnAppearance));
     }
   }

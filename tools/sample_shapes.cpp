@@ -149,6 +149,19 @@ Picture bands(int size) {
   return picture;
 }
 
+Picture flutes(int size) {
+  const double stone[3] = {238, 208, 172};
+  Picture picture{size, size, ""};
+  for (int y = 0; y < size; ++y) {
+    for (int x = 0; x < size; ++x) {
+      const double flute = 0.84 + 0.16 * std::cos(2 * pi * 8 * (x + 0.5) / size);
+      const double grain = 0.97 + 0.03 * std::sin(x * 3.1 + y * 7.7);
+      addPixel(picture, stone, flute * grain);
+    }
+  }
+  return picture;
+}
+
 Picture beachBall(int width, int height) {
   const double colors[6][3] = {{226, 62, 58},  {248, 248, 244}, {58, 116, 206},
                                {250, 206, 70}, {248, 248, 244}, {70, 168, 96}};

@@ -41,6 +41,8 @@ struct Picture {
 Picture tiles(int size);
 /// Slanted bands of four colours that join at the edges.
 Picture bands(int size);
+/// Warm stone with eight upright flutes.
+Picture flutes(int size);
 /// Six coloured panels with light caps, to be wrapped around a sphere.
 Picture beachBall(int width, int height);
 /// R, G, B, A: black, opaque in the middle and clear at the edge.
