@@ -214,8 +214,10 @@ void Node::addChild(boost::shared_ptr<Node> child) {
     }
     throw std::invalid_argument("Attempt to add a child that already has a parent");
   }
-  // A node above this one that has no parent is its root.
-  if (rootNode.lock() == child) {
+  // A node above this one that has no parent is its root, unless the root has died and left its
+  // children behind.
+  const boost::shared_ptr<Node> root = rootNode.lock();
+  if (root == child || (!root && isDescendantOf(child))) {
     throw std::invalid_argument("child is an ancestor of this Patch");
   }
   {
@@ -231,11 +233,17 @@ void Node::removeChild(boost::shared_ptr<Node> child) {
   }
   {
     std::lock_guard<Mutex> lock(mutex);
-    std::size_t index = 0;
-    while (index < children.size() && children[index] != child) {
-      ++index;
+    // From both ends, where children mostly leave.
+    const std::size_t count = children.size();
+    std::size_t index = count;
+    for (std::size_t i = 0; i < count && index == count; ++i) {
+      if (children[count - 1 - i] == child) {
+        index = count - 1 - i;
+      } else if (children[i] == child) {
+        index = i;
+      }
     }
-    if (index == children.size()) {
+    if (index == count) {
       return;
     }
     children.erase(children.begin() + static_cast<std::ptrdiff_t>(index));
