@@ -38,7 +38,10 @@ int surplus(const PortPixelFormat& format, const PixelFormatRequest& request) {
   const int others = excess(format.depth, request.depth) + excess(format.stencil, request.stencil);
   // Windows with an alpha channel of their own shine through under a compositor.
   const int translucent = request.window && format.visualDepth > 24 ? 4 : 0;
-  return colours * 16 + samples + others + translucent;
+  // Mesa puts a pbuffer into a pixmap of all its bits, but with images of the visual's depth.
+  const int bits = format.red + format.green + format.blue + format.alpha;
+  const int shallow = !request.window && format.visualDepth && format.visualDepth < bits ? 4 : 0;
+  return colours * 16 + samples + others + translucent + shallow;
 }
 
 int shortage(const PortPixelFormat& format, const PixelFormatRequest& request) {

@@ -127,6 +127,9 @@ PortConnection* portConnect(PortNativeDisplay native) {
     // By default Xlib ends the process when the server closes the connection.
     XSetIOErrorExitHandler(connection->display, markDead, connection.get());
   }
+  int event = 0;
+  int error = 0;
+  XQueryExtension(connection->display, "GLX", &connection->glxOpcode, &event, &error);
   list.push_back(std::move(connection));
   return list.back().get();
 }

@@ -41,7 +41,7 @@ bool portMakeCurrent(PortConnection* connection, PortDrawable* draw, PortDrawabl
   }
   bool done = false;
   {
-    XErrorTrap trap(*connection);
+    XErrorTrap trap(*connection, XErrorTrap::openGl);
     done = glXMakeContextCurrent(connection->display, draw ? draw->id : 0, read ? read->id : 0,
                                  context ? context->context : nullptr) &&
            !trap.failed();
@@ -99,7 +99,7 @@ bool portSwapBuffers(PortConnection* connection, PortDrawable* drawable) {
   if (connection->dead) {
     return false;
   }
-  XErrorTrap trap(*connection);
+  XErrorTrap trap(*connection, XErrorTrap::openGl);
   glXSwapBuffers(connection->display, drawable->id);
   return !trap.failed();
 }
@@ -108,7 +108,7 @@ bool portSwapInterval(PortConnection* connection, PortDrawable* drawable, int in
   if (connection->dead) {
     return false;
   }
-  XErrorTrap trap(*connection);
+  XErrorTrap trap(*connection, XErrorTrap::openGl);
   if (connection->swapIntervalExt) {
     connection->swapIntervalExt(connection->display, drawable->id, interval);
     return !trap.failed();

@@ -21,6 +21,7 @@ struct PortConnection {
   Display* display = nullptr;
   bool own = false;   ///< opened by the port, on which nobody else makes requests
   bool dead = false;  ///< the X server has gone or has closed the connection
+  int glxOpcode = 0;  ///< major request code of GLX, 0 without it
 
   std::vector<GLXFBConfig> configs;
   std::vector<PortPixelFormat> formats;
@@ -49,7 +50,11 @@ struct PortDrawable {
 /// the former error handler back. Errors of other displays go to the former handler. Traps nest.
 class XErrorTrap {
  public:
-  explicit XErrorTrap(PortConnection& connection);
+  /// What may be at work inside the trap. Mesa's software driver puts the front buffers of pbuffers
+  /// into pixmaps of another depth and takes no notice of the BadMatch; nor does a trap for it.
+  enum Work { requests, openGl };
+
+  explicit XErrorTrap(PortConnection& connection, Work work = requests);
   ~XErrorTrap();
   XErrorTrap(const XErrorTrap&) = delete;
   XErrorTrap& operator=(const XErrorTrap&) = delete;
@@ -61,6 +66,7 @@ class XErrorTrap {
 
  private:
   PortConnection& connection;
+  Work work;
   XErrorTrap* outer;
   XErrorHandler formerHandler;
   XErrorHandler formerChain;

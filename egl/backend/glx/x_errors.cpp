@@ -19,7 +19,11 @@ void settle(const PortConnection& connection) {
 int handleXError(Display* display, XErrorEvent* event) {
   for (XErrorTrap* trap = innermostTrap; trap; trap = trap->outer) {
     if (trap->connection.display == display) {
-      trap->code = event->error_code;
+      const bool ofDriver = trap->work == XErrorTrap::openGl && event->error_code == BadMatch &&
+                            event->request_code != trap->connection.glxOpcode;
+      if (!ofDriver) {
+        trap->code = event->error_code;
+      }
       return 0;
     }
   }
@@ -29,7 +33,8 @@ int handleXError(Display* display, XErrorEvent* event) {
   return chain ? chain(display, event) : 0;
 }
 
-XErrorTrap::XErrorTrap(PortConnection& connection) : connection(connection), outer(innermostTrap) {
+XErrorTrap::XErrorTrap(PortConnection& connection, Work work)
+    : connection(connection), work(work), outer(innermostTrap) {
   if (!connection.own) {
     // Errors that the display's owner has pending are the owner's.
     settle(connection);
