@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 #include "engine/object/log.h"
 
@@ -120,43 +122,43 @@ int TriangleStripArray::getIndexCount() {
   return static_cast<int>(static_cast<std::uint32_t>(triangles * 3));
 }
 
+template <class Visit>
+void TriangleStripArray::visitTriangles(const Visit& visit) {
+  // Strips too short for a triangle lower the count below what the others need: the walk ends where
+  // the count does.
+  const std::int64_t count = getIndexCount();
+  std::int64_t visited = 0;
+  for (unsigned strip = 0; strip < stripCount(); ++strip) {
+    const auto indexAt = [this, strip](unsigned i) {
+      return static_cast<int>(isExplicit_ ? stripIndices_[strip][i] : stripStarts[strip] + i);
+    };
+    for (unsigned i = 2; i < stripLengths[strip]; ++i) {
+      visited += 3;
+      if (visited > count) {
+        return;
+      }
+      const bool swapped = i % 2 != 0;
+      visit(indexAt(swapped ? i - 1 : i - 2), indexAt(swapped ? i - 2 : i - 1), indexAt(i));
+    }
+  }
+}
+
 void TriangleStripArray::getIndices(int* out) {
   if (out == nullptr) {
     throw std::invalid_argument(
         "TriangleStripArray.getIndices() -- indices array argument  is null");
   }
-  // Strips too short for a triangle lower the count below what the others need: never more is
-  // written than the count says.
-  const std::int64_t room = getIndexCount();
-  std::int64_t written = 0;
-  for (unsigned strip = 0; strip < stripCount(); ++strip) {
-    const auto indexAt = [this, strip](unsigned i) {
-      return isExplicit_ ? static_cast<unsigned>(stripIndices_[strip][i]) : stripStarts[strip] + i;
-    };
-    for (unsigned i = 2; i < stripLengths[strip]; ++i) {
-      if (written + 3 > room) {
-        return;
-      }
-      const bool swapped = i % 2 != 0;
-      out[written] = static_cast<int>(indexAt(swapped ? i - 1 : i - 2));
-      out[written + 1] = static_cast<int>(indexAt(swapped ? i - 2 : i - 1));
-      out[written + 2] = static_cast<int>(indexAt(i));
-      written += 3;
-    }
-  }
+  visitTriangles([&out](int a, int b, int c) {
+    *out++ = a;
+    *out++ = b;
+    *out++ = c;
+  });
 }
 
 void TriangleStripArray::printIndices() {
-  const int count = getIndexCount();
-  std::printf("TriStripArray -- implicit --  Index Count = %d\n", count);
+  std::printf("TriStripArray -- implicit --  Index Count = %d\n", getIndexCount());
   std::printf(" [ ");
-  if (count > 0) {
-    std::vector<int> indices(static_cast<std::size_t>(count), 0);
-    getIndices(indices.data());
-    for (const int index : indices) {
-      std::printf("%d, ", index);
-    }
-  }
+  visitTriangles([](int a, int b, int c) { std::printf("%d, %d, %d, ", a, b, c); });
   std::printf(" ] \n");
   std::fflush(stdout);
 }

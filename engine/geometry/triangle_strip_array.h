@@ -40,6 +40,10 @@ class TriangleStripArray : public IndexBuffer {
   void printIndices() override;
 
  private:
+  /// Calls visit with the three indices of each triangle in order, getIndexCount() indices at most.
+  template <class Visit>
+  void visitTriangles(const Visit& visit);
+
   /// Takes copies of the arrays without a reset; what load uses once the base part has been read.
   /// Null indices mean the implicit form. Throws std::invalid_argument for null or empty lengths
   /// and, in the explicit form, for a strip shorter than 3 or fewer indices than the lengths add up
