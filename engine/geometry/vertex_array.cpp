@@ -1,5 +1,6 @@
 #include "engine/geometry/vertex_array.h"
 
+#include <algorithm>
 #include <boost/pointer_cast.hpp>
 #include <cstdint>
 #include <cstdio>
@@ -17,15 +18,14 @@ namespace {
 
 constexpr int LARGEST_VERTEX_COUNT = 65535;
 
-// Truncates towards zero; what no int holds becomes the nearest one, and a NaN 0.
-int truncate(double value) {
-  if (value >= static_cast<double>(std::numeric_limits<int>::max())) {
-    return std::numeric_limits<int>::max();
-  }
-  if (value <= static_cast<double>(std::numeric_limits<int>::min())) {
-    return std::numeric_limits<int>::min();
-  }
-  return value == value ? static_cast<int>(value) : 0;
+// Truncates towards zero; what no int holds becomes the nearest one, and a NaN 0. It is all
+// selects, so that loops over it become vector code.
+std::int32_t truncate(double value) {
+  constexpr double most = std::numeric_limits<std::int32_t>::max();
+  constexpr double least = std::numeric_limits<std::int32_t>::min();
+  const double number = value == value ? value : 0.0;
+  const double below = number < most ? number : most;
+  return static_cast<std::int32_t>(below > least ? below : least);
 }
 
 // The low bits of a value.
@@ -41,19 +41,33 @@ unsigned char clampedByte(std::int64_t value) {
   return value < 0 ? 0 : value > 255 ? 255 : static_cast<unsigned char>(value);
 }
 
-// One blend: base plus the weighted differences of the targets, component by component, as
-// Component; `store` brings the sum back into the range of the result.
-template <class Component, class Stored, class Store>
-void blend(const Component* base, const std::unique_ptr<const Component*[]>& targets,
-           int targetCount, const float* weights, std::size_t total, Stored* result, Store store) {
-  for (std::size_t i = 0; i < total; ++i) {
-    const int start = base[i];
-    std::int64_t sum = start;
-    for (int k = 0; k < targetCount; ++k) {
-      const int difference = targets[k][i] - start;
-      sum += truncate(static_cast<double>(difference) * static_cast<double>(weights[k]));
+// Components that are blended at a time.
+constexpr std::size_t BLEND_BLOCK = 256;
+
+// One blend: base plus the weighted differences of the targets, component by component. `values`
+// gives the components of a target by its number; `store` brings the sum back into the range of the
+// result, which is none of the arrays read.
+template <class Sum, class Component, class Values, class Stored, class Store>
+void blend(const Component* base, Values values, int targetCount, const float* weights,
+           std::size_t total, Stored* result, Store store) {
+  std::int32_t start[BLEND_BLOCK];
+  Sum sums[BLEND_BLOCK];
+  for (std::size_t first = 0; first < total; first += BLEND_BLOCK) {
+    const std::size_t count = std::min(BLEND_BLOCK, total - first);
+    for (std::size_t i = 0; i < count; ++i) {
+      start[i] = base[first + i];
+      sums[i] = static_cast<Sum>(start[i]);
     }
-    result[i] = store(sum);
+    for (int k = 0; k < targetCount; ++k) {
+      const Component* const target = values(k) + first;
+      const double weight = static_cast<double>(weights[k]);
+      for (std::size_t i = 0; i < count; ++i) {
+        sums[i] += static_cast<Sum>(truncate((target[i] - start[i]) * weight));
+      }
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+      result[first + i] = store(sums[i]);
+    }
   }
 }
 
@@ -228,11 +242,13 @@ void VertexArray::widenTo16Bit() {
 void VertexArray::expandToRgba() {
   constexpr std::size_t RECORD = 3;
   const std::size_t count = static_cast<std::size_t>(vertexCount);
-  rgbaCopy_.reset();
   if (byteCount < count * RECORD) {
+    rgbaCopy_.reset();
     return;
   }
-  rgbaCopy_.reset(new unsigned char[count * 4]);
+  if (!rgbaCopy_) {
+    rgbaCopy_.reset(new unsigned char[count * 4]);
+  }
   for (std::size_t i = 0; i < count; ++i) {
     std::memcpy(&rgbaCopy_[i * 4], &bytes[i * RECORD], RECORD);
     rgbaCopy_[i * 4 + 3] = 255;
@@ -290,26 +306,23 @@ bool VertexArray::morph(const VertexArray& base, int targetCount, VertexArray* c
       result->widenTo16Bit();
     }
   }
-  const std::size_t slots = static_cast<std::size_t>(targetCount);
+  // Where only the low bits are kept the sums may wrap.
+  using Wrapping = std::uint32_t;
   if (asShorts) {
-    std::unique_ptr<const short*[]> values(new const short*[slots]);
-    for (std::size_t k = 0; k < slots; ++k) {
-      values[k] = targets[k]->shortData();
-    }
-    blend(base.shortData(), values, targetCount, weights, total, result->shorts(), lowShort);
+    const auto values = [targets](int k) { return targets[k]->shortData(); };
+    blend<Wrapping>(base.shortData(), values, targetCount, weights, total, result->shorts(),
+                    lowShort);
   } else if (signedBytes) {
-    std::unique_ptr<const signed char*[]> values(new const signed char*[slots]);
-    for (std::size_t k = 0; k < slots; ++k) {
-      values[k] = targets[k]->byteData();
-    }
-    blend(base.byteData(), values, targetCount, weights, total, result->bytes.get(), lowByte);
+    const auto values = [targets](int k) { return targets[k]->byteData(); };
+    blend<Wrapping>(base.byteData(), values, targetCount, weights, total, result->bytes.get(),
+                    lowByte);
   } else {
-    std::unique_ptr<const unsigned char*[]> values(new const unsigned char*[slots]);
-    for (std::size_t k = 0; k < slots; ++k) {
-      values[k] = targets[k]->bytes.get();
-    }
+    const auto values = [targets](int k) -> const unsigned char* {
+      return targets[k]->bytes.get();
+    };
     const unsigned char* const start = base.bytes.get();
-    blend(start, values, targetCount, weights, total, result->bytes.get(), clampedByte);
+    blend<std::int64_t>(start, values, targetCount, weights, total, result->bytes.get(),
+                        clampedByte);
   }
   result->dirty = true;
   return true;
