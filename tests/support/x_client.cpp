@@ -132,6 +132,11 @@ void XClient::killOwner(std::uintptr_t resource) {
   XSync(connection->display, False);
 }
 
+void XClient::provokeError() {
+  XMapWindow(connection->display, 4711);
+  XSync(connection->display, False);
+}
+
 std::uintptr_t XClient::createWindow(int width, int height) {
   const Window window =
       XCreateSimpleWindow(connection->display, DefaultRootWindow(connection->display), 0, 0,

@@ -33,6 +33,9 @@ class XClient {
   /// Ends the connection that owns the resource, as a user does who loses patience.
   void killOwner(std::uintptr_t resource);
 
+  /// Makes a request that the server refuses, and waits for the error.
+  void provokeError();
+
   /// A mapped window of the screen's default visual, or of the first other one of the given depth.
   std::uintptr_t createWindow(int width, int height);
   std::uintptr_t createWindowOfDepth(int width, int height, int depth);

@@ -46,8 +46,9 @@ struct PortDrawable {
   Window window = 0;  ///< 0 for a pbuffer
 };
 
-/// Catches the X errors of one connection between its construction and its destruction, and brings
-/// the former error handler back. Errors of other displays go to the former handler. Traps nest.
+/// Catches the X errors of one connection, and the end of an own one, between its construction and
+/// its destruction, and brings the former error handlers back. Errors of other displays go to the
+/// former handler. Traps nest.
 class XErrorTrap {
  public:
   /// What may be at work inside the trap. Mesa's software driver puts the front buffers of pbuffers
@@ -70,9 +71,12 @@ class XErrorTrap {
   XErrorTrap* outer;
   XErrorHandler formerHandler;
   XErrorHandler formerChain;
+  XIOErrorHandler formerIoHandler;
+  XIOErrorHandler formerIoChain;
   int code = 0;
 
   friend int handleXError(Display* display, XErrorEvent* event);
+  friend int handleXIoError(Display* display);
 };
 
 /// While a context of an own connection is current, requests that the OpenGL library makes between

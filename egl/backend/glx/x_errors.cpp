@@ -5,6 +5,7 @@ namespace {
 XErrorTrap* innermostTrap = nullptr;
 PortConnection* guarded = nullptr;
 XErrorHandler chain = nullptr;
+XIOErrorHandler ioChain = nullptr;
 
 /// Waits until the server has answered every request so far.
 void settle(const PortConnection& connection) {
@@ -15,6 +16,20 @@ void settle(const PortConnection& connection) {
 }
 
 }  // namespace
+
+/// The server has closed a connection. By default Xlib ends the process for it; for an own
+/// connection the note that its exit handler takes is enough.
+int handleXIoError(Display* display) {
+  for (XErrorTrap* trap = innermostTrap; trap; trap = trap->outer) {
+    if (trap->connection.own && trap->connection.display == display) {
+      return 0;
+    }
+  }
+  if (guarded && guarded->display == display) {
+    return 0;
+  }
+  return ioChain ? ioChain(display) : 0;
+}
 
 int handleXError(Display* display, XErrorEvent* event) {
   for (XErrorTrap* trap = innermostTrap; trap; trap = trap->outer) {
@@ -44,6 +59,11 @@ XErrorTrap::XErrorTrap(PortConnection& connection, Work work)
   if (formerHandler != handleXError) {
     chain = formerHandler;
   }
+  formerIoHandler = XSetIOErrorHandler(handleXIoError);
+  formerIoChain = ioChain;
+  if (formerIoHandler != handleXIoError) {
+    ioChain = formerIoHandler;
+  }
   innermostTrap = this;
 }
 
@@ -52,6 +72,8 @@ XErrorTrap::~XErrorTrap() {
   innermostTrap = outer;
   XSetErrorHandler(formerHandler);
   chain = formerChain;
+  XSetIOErrorHandler(formerIoHandler);
+  ioChain = formerIoChain;
 }
 
 bool XErrorTrap::failed() {
@@ -72,6 +94,10 @@ void guardXErrors(PortConnection& connection) {
   if (former != handleXError) {
     chain = former;
   }
+  XIOErrorHandler formerIo = XSetIOErrorHandler(handleXIoError);
+  if (formerIo != handleXIoError) {
+    ioChain = formerIo;
+  }
 }
 
 void unguardXErrors() {
@@ -83,5 +109,9 @@ void unguardXErrors() {
   if (present != handleXError) {
     // Somebody else has taken over since: theirs stays.
     XSetErrorHandler(present);
+  }
+  XIOErrorHandler presentIo = XSetIOErrorHandler(ioChain);
+  if (presentIo != handleXIoError) {
+    XSetIOErrorHandler(presentIo);
   }
 }
