@@ -48,17 +48,23 @@ final class ChildJvm {
     /** The same with further options for the virtual machine. */
     static Result run(List<String> options, Class<?> main, String... arguments)
             throws IOException, InterruptedException {
-        return run(options, "", main, arguments);
+        return run(options, "", true, main, arguments);
+    }
+
+    /** The same where there is no display. */
+    static Result runWithoutDisplay(Class<?> main, String... arguments)
+            throws IOException, InterruptedException {
+        return run(List.of(), "", false, main, arguments);
     }
 
     /** The same with classes of this folder in front of the class path. */
     static Result runBefore(String classes, Class<?> main, String... arguments)
             throws IOException, InterruptedException {
-        return run(List.of(), classes + File.pathSeparator, main, arguments);
+        return run(List.of(), classes + File.pathSeparator, true, main, arguments);
     }
 
-    private static Result run(List<String> options, String classes, Class<?> main,
-            String... arguments) throws IOException, InterruptedException {
+    private static Result run(List<String> options, String classes, boolean display,
+            Class<?> main, String... arguments) throws IOException, InterruptedException {
         List<String> command = new ArrayList<>();
         command.add(Path.of(System.getProperty("java.home"), "bin", "java").toString());
         command.add("-Xcheck:jni");
@@ -76,8 +82,12 @@ final class ChildJvm {
         Path out = folder.resolve("out");
         Path err = folder.resolve("err");
         try {
-            Process process = new ProcessBuilder(command).directory(folder.toFile())
-                    .redirectOutput(out.toFile()).redirectError(err.toFile()).start();
+            ProcessBuilder builder = new ProcessBuilder(command).directory(folder.toFile())
+                    .redirectOutput(out.toFile()).redirectError(err.toFile());
+            if (!display) {
+                builder.environment().remove("DISPLAY");
+            }
+            Process process = builder.start();
             if (!process.waitFor(MINUTES, TimeUnit.MINUTES)) {
                 process.destroyForcibly().waitFor();
                 throw new IllegalStateException(main.getName() + " does not end");
