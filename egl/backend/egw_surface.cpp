@@ -26,7 +26,7 @@ bool openWindow(PortConnection* connection, EgwSurface& surface, const PortPixel
   if (!surface.drawable) {
     return false;
   }
-  surface.renderContext = portCreateContext(connection, format);
+  surface.renderContext = portCreateContext(connection, format, surface.drawable);
   if (!surface.renderContext) {
     portDestroyDrawable(connection, surface.drawable);
     surface.drawable = nullptr;
@@ -47,7 +47,7 @@ bool openPbuffer(PortConnection* connection, EgwSurface& surface, const PixelFor
   if (!surface.drawable) {
     return false;
   }
-  surface.renderContext = portCreateContext(connection, format);
+  surface.renderContext = portCreateContext(connection, format, surface.drawable);
   if (!surface.renderContext) {
     portDestroyDrawable(connection, surface.drawable);
     surface.drawable = nullptr;

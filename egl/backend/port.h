@@ -76,9 +76,11 @@ void* portGetProcAddress(const char* name);
 
 /// All configurations of the connection, in the window system's order.
 const std::vector<PortPixelFormat>& portPixelFormats(PortConnection* connection);
-/// A context for drawables of the format, sharing objects with all others of the connection.
+/// A context for the drawable, which is of the format, sharing objects with all others of the
+/// connection.
 /// Null on failure. Freed by portDestroyContext.
-PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format);
+PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format,
+                               PortDrawable* drawable);
 void portDestroyContext(PortConnection* connection, PortContext* context);
 /// Makes the context current on the two drawables; all null releases what is current.
 bool portMakeCurrent(PortConnection* connection, PortDrawable* draw, PortDrawable* read,

@@ -1,6 +1,7 @@
 #include "egl/backend/glx/glx_port.h"
 
-PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format) {
+PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format,
+                               PortDrawable*) {
   if (connection->dead || format.id >= connection->configs.size()) {
     return nullptr;
   }

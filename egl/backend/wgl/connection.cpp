@@ -1,0 +1,72 @@
+#include <memory>
+
+#include "egl/backend/wgl/wgl_port.h"
+
+WglExtensions wglExtensions;
+
+namespace {
+
+std::vector<std::unique_ptr<PortConnection>>& connections() {
+  // Never destroyed: the OpenGL library's own clean-up at process end may come after ours.
+  static auto* list = new std::vector<std::unique_ptr<PortConnection>>();
+  return *list;
+}
+
+}  // namespace
+
+PortConnection* portConnect(PortNativeDisplay native) {
+  auto& list = connections();
+  const HDC display = reinterpret_cast<HDC>(native);
+  for (auto& connection : list) {
+    if (connection->display == display) {
+      return connection.get();
+    }
+  }
+  if (display && GetObjectType(display) != OBJ_DC && GetObjectType(display) != OBJ_MEMDC) {
+    return nullptr;
+  }
+  auto connection = std::make_unique<PortConnection>();
+  connection->display = display;
+  list.push_back(std::move(connection));
+  return list.back().get();
+}
+
+void portDisconnect(PortConnection* connection) {
+  if (connection->shareRoot) {
+    wglDeleteContext(connection->shareRoot);
+    connection->shareRoot = nullptr;
+  }
+  if (!connection->display) {
+    return;
+  }
+  auto& list = connections();
+  for (auto at = list.begin(); at != list.end(); ++at) {
+    if (at->get() == connection) {
+      list.erase(at);
+      return;
+    }
+  }
+}
+
+const std::vector<PortPixelFormat>& portPixelFormats(PortConnection* connection) {
+  // Formats are the screen's: another connection's probe has read those of this one too.
+  if (connection->formats.empty()) {
+    for (auto& other : connections()) {
+      if (!other->formats.empty()) {
+        connection->formats = other->formats;
+        break;
+      }
+    }
+  }
+  return connection->formats;
+}
+
+void* portGetProcAddress(const char* name) {
+  // Drivers answer a missing function with null, 1, 2, 3 or -1, and those of OpenGL 1.1 too.
+  const auto address = reinterpret_cast<std::intptr_t>(wglGetProcAddress(name));
+  if (address < -1 || address > 3) {
+    return reinterpret_cast<void*>(address);
+  }
+  const HMODULE library = GetModuleHandleW(L"opengl32.dll");
+  return library ? reinterpret_cast<void*>(GetProcAddress(library, name)) : nullptr;
+}
