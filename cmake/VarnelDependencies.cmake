@@ -2,6 +2,9 @@
 #   VARNEL_SYSTEM_LIBRARIES  what to link,
 #   VARNEL_SYSTEM_INCLUDES   where its headers are,
 #   VARNEL_OTHER_PORT        the folder of egl/backend/ that this system does not build.
+if(WIN32)
+  set(ZLIB_USE_STATIC_LIBS ON)
+endif()
 find_package(ZLIB REQUIRED)
 find_package(PNG REQUIRED)
 find_package(JPEG REQUIRED)

@@ -1,5 +1,7 @@
 #include "engine/render/window_target.h"
 
+#include <bit>
+#include <cstdint>
 #include <stdexcept>
 
 #include "egl/window/native_window.h"
@@ -89,7 +91,7 @@ void WindowTarget::present() {
   eglWaitNative(EGL_CORE_NATIVE_ENGINE);
   eglSwapBuffers(display, record.surface);
   eglWaitClient();
-  pumpNativeMessages(static_cast<std::uintptr_t>(window));
+  pumpNativeMessages(std::bit_cast<std::uintptr_t>(window));
   pumpNativeMessages(deviceContext);
 }
 
