@@ -37,6 +37,28 @@ int packAlignment() {
   return current ? current->packAlignment : 4;
 }
 
+// The published entries have a calling convention of their own on some systems.
+
+void finish() {
+  glFinish();
+}
+
+void pixelStore(unsigned name, int value) {
+  glPixelStorei(name, value);
+}
+
+void readPixels(int x, int y, int width, int height, unsigned format, unsigned type, void* pixels) {
+  glReadPixels(x, y, width, height, format, type, pixels);
+}
+
+void getInteger(unsigned name, int* values) {
+  glGetIntegerv(name, values);
+}
+
+void bindTexture(unsigned target, unsigned texture) {
+  glBindTexture(target, texture);
+}
+
 void getTexLevelParameter(unsigned target, int level, unsigned name, int* values) {
   driver.glGetTexLevelParameteriv(target, level, name, values);
 }
@@ -48,8 +70,8 @@ void getTexImage(unsigned target, int level, unsigned format, unsigned type, voi
 }  // namespace
 
 void fillEs1FunctionTable(GlFunctionTable* table, bool) {
-  *table = {doNothing,     createState,   destroyState,  setCurrentState,
-            drawRectangle, packAlignment, glFinish,      glPixelStorei,
-            glReadPixels,  glGetIntegerv, glBindTexture, getTexLevelParameter,
+  *table = {doNothing,     createState,   destroyState, setCurrentState,
+            drawRectangle, packAlignment, finish,       pixelStore,
+            readPixels,    getInteger,    bindTexture,  getTexLevelParameter,
             getTexImage};
 }
