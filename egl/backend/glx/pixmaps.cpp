@@ -57,6 +57,7 @@ int bitsPerPixelOfDepth(PortConnection& connection, int depth) {
 
 /// Depth of a pixmap; 0 if there is no such pixmap.
 int pixmapSize(PortConnection& connection, Pixmap pixmap, int* width, int* height) {
+  XErrorTrap trap(connection);
   XWindowAttributes windowAttributes;
   if (!pixmap || XGetWindowAttributes(connection.display, pixmap, &windowAttributes)) {
     return 0;

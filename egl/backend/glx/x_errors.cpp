@@ -50,10 +50,8 @@ int handleXError(Display* display, XErrorEvent* event) {
 
 XErrorTrap::XErrorTrap(PortConnection& connection, Work work)
     : connection(connection), work(work), outer(innermostTrap) {
-  if (!connection.own) {
-    // Errors that the display's owner has pending are the owner's.
-    settle(connection);
-  }
+  // Errors that are still under way are not the trap's.
+  settle(connection);
   formerHandler = XSetErrorHandler(handleXError);
   formerChain = chain;
   if (formerHandler != handleXError) {
