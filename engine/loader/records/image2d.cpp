@@ -25,8 +25,9 @@ void Image2D::load(M3gObjectInputStream& stream, ObjectTable& table) {
     allocate(format, width, height, true);
     return;
   }
-  // Pixels that the file cannot hold are found too short below.
-  if (pixelCount <= stream.bytesLeft()) {
+  // The texture that comes with the store keeps its image alive, so a record with pixels makes it
+  // only when it can no longer fail.
+  if (width < 0 || height < 0) {
     allocate(format, width, height, true);
   }
   unsigned paletteLength = 0;
@@ -41,6 +42,7 @@ void Image2D::load(M3gObjectInputStream& stream, ObjectTable& table) {
     if (pixelLength < pixelCount) {
       throw std::runtime_error("Invalid pixel index array length in Image2D file constructor");
     }
+    allocate(format, width, height, true);
     expandPalette(newPixels.get(), palette.get(), paletteLength);
     isMutable_ = false;
     return;
@@ -48,6 +50,7 @@ void Image2D::load(M3gObjectInputStream& stream, ObjectTable& table) {
   if (pixelLength < pixelCount * pixelSize) {
     throw std::runtime_error("Invalid pixel array length in Image2D file constructor");
   }
+  allocate(format, width, height, true);
   storePixels(newPixels.get(), pixelLength);
 }
 
