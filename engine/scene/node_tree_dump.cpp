@@ -5,7 +5,10 @@
 #include "engine/scene/camera.h"
 #include "engine/scene/light.h"
 #include "engine/scene/mesh.h"
+#include "engine/scene/morphing_mesh.h"
 #include "engine/scene/node.h"
+#include "engine/scene/skinned_mesh.h"
+#include "engine/scene/sprite3d.h"
 #include "engine/scene/world.h"
 
 namespace varnel_m3g {
@@ -25,6 +28,12 @@ const char* className(const Node& node) {
   if (is<Group>(node)) {
     return "Group";
   }
+  if (is<SkinnedMesh>(node)) {
+    return "SkinnedMesh";
+  }
+  if (is<MorphingMesh>(node)) {
+    return "MorphingMesh";
+  }
   if (is<Mesh>(node)) {
     return "Mesh";
   }
@@ -33,6 +42,9 @@ const char* className(const Node& node) {
   }
   if (is<Light>(node)) {
     return "Light";
+  }
+  if (is<Sprite3D>(node)) {
+    return "Sprite3D";
   }
   return "Node";
 }
