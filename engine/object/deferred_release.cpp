@@ -1,5 +1,7 @@
 #include "engine/object/deferred_release.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -21,10 +23,14 @@ void releaseDeferred(boost::shared_ptr<void> reference) {
   std::vector<boost::shared_ptr<void>> queue;
   waiting = &queue;
   reference.reset();
+  std::reverse(queue.begin(), queue.end());
   while (!queue.empty()) {
     boost::shared_ptr<void> next = std::move(queue.back());
     queue.pop_back();
+    const std::size_t before = queue.size();
     next.reset();
+    // What came last is taken first: turned over, all ends in the order of a recursion.
+    std::reverse(queue.begin() + static_cast<std::ptrdiff_t>(before), queue.end());
   }
   waiting = nullptr;
 }

@@ -27,7 +27,7 @@ TEST(DeferredRelease, EndsAChainOfAHundredThousandOnASmallStack) {
   });
 }
 
-TEST(DeferredRelease, EndsEverythingBeforeTheOutermostReleaseReturns) {
+TEST(DeferredRelease, EndsEverythingInOrderBeforeTheOutermostReleaseReturns) {
   std::vector<std::string> deaths;
   const auto named = [&deaths](const std::string& name) {
     const auto object = TestObject::create();
@@ -38,10 +38,19 @@ TEST(DeferredRelease, EndsEverythingBeforeTheOutermostReleaseReturns) {
   auto root = named("root");
   auto a = named("a");
   a->references = {named("below")};
-  root->references = {a, named("b")};
+  a->references.push_back(named("beside"));
+  auto b = named("b");
+  b->references = {named("last")};
+  root->references = {a, b};
+  boost::weak_ptr<TestObject> watch = b;
   a.reset();
+  auto top = named("top");
+  top->references = {root};
   root.reset();
-  EXPECT_THAT(deaths, testing::ElementsAre("root", "a", "below", "b"));
+  b.reset();
+  releaseDeferred(std::move(top));
+  EXPECT_THAT(deaths, testing::ElementsAre("top", "root", "a", "below", "beside", "b", "last"));
+  EXPECT_TRUE(watch.expired());
 }
 
 TEST(DeferredRelease, TakesAnEmptyPointer) {
