@@ -14,8 +14,8 @@
 #include "engine/scene/group.h"
 #include "engine/surface/fog.h"
 #include "engine/surface/material.h"
-#include "tests/engine/animation/allocation_count.h"
 #include "tests/engine/animation/animation_scene.h"
+#include "tests/support/allocation_count.h"
 #include "tests/support/small_stack.h"
 #include "tests/support/test_object.h"
 
