@@ -285,6 +285,35 @@ public class Object3DTest {
     }
 
     @Test
+    public void deepTreesAreSearchedAnimatedAndDuplicatedOnASmallStack() throws Exception {
+        int depth = 100_000;
+        Throwable[] failure = new Throwable[1];
+        Runnable work = () -> {
+            Group root = new Group();
+            Group last = root;
+            for (int i = 0; i < depth; i++) {
+                Group next = new Group();
+                last.addChild(next);
+                last = next;
+            }
+            last.setUserID(depth);
+            assertSame(last, root.find(depth));
+            assertEquals(Integer.MAX_VALUE, root.animate(0));
+            Group copy = (Group) root.duplicate();
+            Object3D found = copy.find(depth);
+            assertNotSame(last, found);
+            assertEquals(depth, found.getUserID());
+        };
+        Thread thread = new Thread(null, work, "small stack", 1 << 20);
+        thread.setUncaughtExceptionHandler((ended, e) -> failure[0] = e);
+        thread.start();
+        thread.join();
+        if (failure[0] != null) {
+            throw new AssertionError(failure[0]);
+        }
+    }
+
+    @Test
     public void aDuplicateSharesTracksAndUserObject() {
         Fog fog = new Fog();
         AnimationTrack track = newTrack();
