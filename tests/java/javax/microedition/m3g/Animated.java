@@ -1,10 +1,5 @@
 package javax.microedition.m3g;
 
-import static org.junit.Assert.assertEquals;
-import static org.junit.Assert.assertThrows;
-
-import org.junit.function.ThrowingRunnable;
-
 /** Small things that tests of the animation classes share. */
 final class Animated {
     private Animated() {}
@@ -41,9 +36,5 @@ final class Animated {
         fog.addAnimationTrack(track(sequence, AnimationTrack.NEAR_DISTANCE));
         fog.animate(time);
         return fog.getNearDistance();
-    }
-
-    static void assertFails(Class<? extends Throwable> kind, String text, ThrowingRunnable work) {
-        assertEquals(text, assertThrows(kind, work).getMessage());
     }
 }

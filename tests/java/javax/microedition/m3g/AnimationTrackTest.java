@@ -1,7 +1,7 @@
 package javax.microedition.m3g;
 
-import static javax.microedition.m3g.Animated.assertFails;
 import static javax.microedition.m3g.Animated.track;
+import static javax.microedition.m3g.Failures.assertFails;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertNull;

@@ -1,9 +1,9 @@
 package javax.microedition.m3g;
 
-import static javax.microedition.m3g.Animated.assertFails;
 import static javax.microedition.m3g.Animated.sequence;
 import static javax.microedition.m3g.Animated.track;
 import static javax.microedition.m3g.Animated.valueAt;
+import static javax.microedition.m3g.Failures.assertFails;
 import static javax.microedition.m3g.KeyframeSequence.CONSTANT;
 import static javax.microedition.m3g.KeyframeSequence.LINEAR;
 import static javax.microedition.m3g.KeyframeSequence.LOOP;
