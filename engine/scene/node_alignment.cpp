@@ -29,6 +29,16 @@ void targetVector(int target, const char* failure, float* out) {
   std::copy(vector, vector + 4, out);
 }
 
+// The rotation from one unit vector to another. Where they are parallel there is no axis, and what
+// rounding has made of the angle goes: it is 0 or 180.
+float rotationTo(const float* from, const float* to, float* axis) {
+  const float angle = alignmentRotation(from, to, axis);
+  if (std::isfinite(axis[0]) || !std::isfinite(angle)) {
+    return angle;
+  }
+  return angle < 90.0f ? 0.0f : 180.0f;
+}
+
 float finiteOrZero(float value) {
   return std::isfinite(value) ? value : 0.0f;
 }
@@ -136,7 +146,7 @@ bool Node::alignSelf(const boost::shared_ptr<Node>& reference) {
     referenceWorld.transform(v, 4);
     toNode.transform(v, 4);
     normalizeVector(v);
-    const float angle = alignmentRotation(Z_UNIT, v, axis);
+    const float angle = rotationTo(Z_UNIT, v, axis);
     if (angle == 180.0f) {
       // Opposite vectors have no cross product; the turn is about y.
       axis[0] = finiteOrZero(axis[0]);
@@ -177,7 +187,7 @@ bool Node::alignSelf(const boost::shared_ptr<Node>& reference) {
       std::fputs("y mag == 0 \n", stdout);
       std::fflush(stdout);
     } else {
-      const float angle = alignmentRotation(Y_UNIT, v, axis);
+      const float angle = rotationTo(Y_UNIT, v, axis);
       if (angle != 0.0f) {
         postRotate(angle, axis[0], axis[1], axis[2]);
       }

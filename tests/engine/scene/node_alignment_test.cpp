@@ -244,6 +244,22 @@ TEST(NodeAlign, ATargetStraightAheadKeepsTheOldOrientation) {
   EXPECT_THAT(orientationOf(*pair.node), near(90, 0, 1, 0));
 }
 
+TEST(NodeAlign, StraightAheadAndBehindHoldAtAnyDistance) {
+  for (int distance = 1; distance <= 200; ++distance) {
+    SCOPED_TRACE(distance);
+    Pair pair;
+    pair.node->setOrientation(20, 1, 0, 0);
+    pair.node->setAlignment(pair.reference, Node::ORIGIN, pair.root, Node::Y_AXIS);
+    pair.reference->setTranslation(0, 0, static_cast<float>(distance));
+    pair.align();
+    EXPECT_THAT(orientationOf(*pair.node), near(20, 1, 0, 0));
+    pair.reference->setTranslation(0, 0, static_cast<float>(-distance));
+    pair.align();
+    EXPECT_THAT(turned(*pair.node, 0, 0, 1), near(0, 0, -1));
+    EXPECT_THAT(turned(*pair.node, 0, 1, 0), near(0, 1, 0));
+  }
+}
+
 TEST(NodeAlign, TheTranslationIsNotTurnedByTheParent) {
   Pair pair;
   pair.root->removeChild(pair.node);

@@ -3,11 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/scene/camera.h"
-#include "engine/scene/group.h"
-#include "engine/scene/light.h"
 #include "engine/scene/ray_intersection.h"
-#include "engine/scene/world.h"
+#include "tests/support/render_objects.h"
 #include "tests/support/small_stack.h"
 
 namespace varnel_m3g {
@@ -118,8 +115,10 @@ TEST(NodeGrowthDeep, IsAlignedAndPicked) {
     Transform out;
     lowest->getTransformTo(world, out);
     world->getChild(1)->align(reference);
+    lowest->addChild(quadMesh(plainAppearance()));
     RayIntersection result;
-    EXPECT_FALSE(world->pick(-1, 0, 0, 0, 0, 0, 1, &result));
+    EXPECT_TRUE(world->pick(-1, 0.2f, 0.4f, 5, 0.2f, 0.4f, 4, &result));
+    EXPECT_EQ(result.getIntersected()->getParent(), lowest);
   });
 }
 
@@ -141,6 +140,23 @@ TEST(NodeGrowthWide, BuildsUpdatesDuplicatesAndDies) {
     const boost::weak_ptr<Node> watch = world->getChild(0);
     world.reset();
     EXPECT_TRUE(watch.expired());
+  });
+}
+
+TEST(NodeGrowthWide, IsPicked) {
+  runOnSmallStack([] {
+    const shared_ptr<World> world = World::create();
+    const shared_ptr<Mesh> first = quadMesh(plainAppearance());
+    world->addChild(first);
+    for (int i = 1; i < COUNT; ++i) {
+      const shared_ptr<Mesh> mesh =
+          Mesh::create(first->getVertexBuffer(), first->getIndexBuffer(0), first->getAppearance(0));
+      mesh->setTranslation(0, 0, static_cast<float>(-i));
+      world->addChild(mesh);
+    }
+    RayIntersection result;
+    EXPECT_TRUE(world->pick(-1, 0.2f, 0.4f, 5, 0.2f, 0.4f, 4, &result));
+    EXPECT_EQ(result.getIntersected(), first);
   });
 }
 
