@@ -1,7 +1,6 @@
 #ifndef VARNEL_EGL_BACKEND_PORT_H
 #define VARNEL_EGL_BACKEND_PORT_H
 
-#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -125,12 +124,5 @@ bool portWritePixmap(PortConnection* connection, PortNativePixmap pixmap,
                      const PortPixmapLayout& layout, const void* rows);
 /// Waits until the window system's own drawing is done.
 void portFlushNative(PortConnection* connection);
-
-// --- Memory ------------------------------------------------------------------------------------
-
-/// Zeroed memory whose address fits 32 bits; null if there is none. Freed by portFreeLow with the
-/// same size.
-void* portAllocateLow(std::size_t size);
-void portFreeLow(void* block, std::size_t size);
 
 #endif

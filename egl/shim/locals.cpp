@@ -22,12 +22,23 @@ void freeLocals(EGLShimLocals* locals) {
   delete locals;
 }
 
+/// Releases what the ending thread has current, so that another may take it.
+void releaseCurrentOf(const EGLShimLocals& locals) {
+  const EglBackend& backend = eglBackend();
+  if (locals.drawSurface &&
+      backend.getCurrentSurface(EGL_DRAW) == locals.drawSurface->backendSurface) {
+    backend.makeCurrent(backend.getCurrentDisplay(), EGL_NO_SURFACE, EGL_NO_SURFACE,
+                        EGL_NO_CONTEXT);
+  }
+}
+
 /// The slot of one thread; the record goes with the thread.
 struct ThreadSlot {
   EGLShimLocals* record = nullptr;
   ~ThreadSlot() {
     if (record) {
       ShimTurn turn;
+      releaseCurrentOf(*record);
       freeLocals(record);
       record = nullptr;
     }

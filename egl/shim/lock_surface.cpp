@@ -1,6 +1,6 @@
 #include <cstdint>
 
-#include "egl/backend/port.h"
+#include "egl/backend/low_memory.h"
 #include "egl/shim/shim.h"
 
 unsigned roundUpToPowerOfTwo(unsigned number) {

@@ -2,7 +2,7 @@
 #include <new>
 #include <vector>
 
-#include "egl/backend/port.h"
+#include "egl/backend/low_memory.h"
 #include "egl/shim/shim.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "egl/backend/port.h"
+#include "egl/backend/low_memory.h"
 
 namespace {
 

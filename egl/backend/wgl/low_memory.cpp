@@ -1,6 +1,8 @@
-#include "egl/backend/port.h"
+#include "egl/backend/low_memory.h"
 
 #include <windows.h>
+
+#include <cstdint>
 
 void* portAllocateLow(std::size_t size) {
   if (size == 0) {

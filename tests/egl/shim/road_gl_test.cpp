@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <thread>
 
 #include "egl/window/native_window.h"
 #include "tests/support/x_client.h"
@@ -73,6 +74,24 @@ TEST_F(Road, DrawsIntoAPbuffer) {
   EXPECT_TRUE(eglMakeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT));
   EXPECT_TRUE(eglDestroyContext(display, context));
   EXPECT_TRUE(eglDestroySurface(display, surface));
+}
+
+TEST_F(Road, AnotherThreadTakesOverWhatAnEndedOneHadCurrent) {
+  EGLSurface surface = EGL_NO_SURFACE;
+  EGLContext context = EGL_NO_CONTEXT;
+  std::thread([&] {
+    ASSERT_TRUE(eglInitialize(display, nullptr, nullptr));
+    EGLConfig config = choose(EGL_PBUFFER_BIT);
+    const EGLint size[] = {EGL_WIDTH, 4, EGL_HEIGHT, 4, EGL_NONE};
+    surface = eglCreatePbufferSurface(display, config, size);
+    context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
+    ASSERT_TRUE(eglMakeCurrent(display, surface, surface, context));
+    glClearColor(0, 1, 1, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glFinish();
+  }).join();
+  ASSERT_TRUE(eglMakeCurrent(display, surface, surface, context));
+  EXPECT_EQ(readPixel(1, 1), (Pixel{0, 255, 255, 255}));
 }
 
 TEST_F(Road, ShowsASwappedFrameInTheWindow) {

@@ -626,6 +626,25 @@ TEST_F(Shim, AThreadsRecordGoesWithIt) {
   EXPECT_TRUE(eglDestroySurface(display, surface));
 }
 
+TEST_F(Shim, AThreadThatEndsReleasesWhatItHadCurrent) {
+  EGLSurface surface = EGL_NO_SURFACE;
+  EGLContext context = EGL_NO_CONTEXT;
+  std::thread([&] {
+    EXPECT_TRUE(eglInitialize(display, nullptr, nullptr));
+    EGLConfig own[16];
+    EGLint count = 0;
+    EXPECT_TRUE(eglGetConfigs(display, own, 16, &count));
+    surface = window(own[1]);
+    context = eglCreateContext(display, own[1], EGL_NO_CONTEXT, nullptr);
+    EXPECT_TRUE(eglMakeCurrent(display, surface, surface, context));
+  }).join();
+  EXPECT_EQ(eglGetCurrentContext(), EGL_NO_CONTEXT);
+  EXPECT_TRUE(eglMakeCurrent(display, surface, surface, context));
+  // One that has nothing current releases nothing.
+  std::thread([&] { EXPECT_EQ(eglGetDisplay(EGL_DEFAULT_DISPLAY), display); }).join();
+  EXPECT_EQ(eglGetCurrentContext(), context);
+}
+
 TEST_F(Shim, ThreadsSideBySideDoNotMeet) {
   const auto work = [&](EGLint api, EGLint expected) {
     EXPECT_EQ(eglGetDisplay(EGL_DEFAULT_DISPLAY), display);
