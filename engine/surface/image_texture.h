@@ -50,7 +50,7 @@ class ImageTexture {
   bool needsSubUpload = false;
   bool needsUpload = true;
   int bytesPerPixel;
-  bool keepsData = true;
+  [[maybe_unused]] bool keepsData = true;
 };
 
 }  // namespace varnel_m3g
