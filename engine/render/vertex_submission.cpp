@@ -151,7 +151,9 @@ void setupTexCoords(const VertexBuffer& buffer, const Appearance& appearance) {
 }
 
 bool reachesPastArrays(const IndexBuffer& buffer, unsigned strip) {
-  return buffer.highestIndex(strip) >= static_cast<long long>(vertexLimit);
+  // A strip of no vertices names none; its start may lie anywhere all the same.
+  return buffer.highestIndex(strip) >= static_cast<long long>(vertexLimit) ||
+         (!buffer.isExplicit() && buffer.stripStart(strip) > vertexLimit);
 }
 
 }  // namespace
