@@ -152,6 +152,10 @@ FakeEgl::FakeEgl() {
 
 FakeEgl::~FakeEgl() {
   release();
+  // What a test has made of its own goes with the shim's record of this thread.
+  const EGLDisplay last = eglGetDisplay(EGL_DEFAULT_DISPLAY);
+  eglMakeCurrent(last, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+  eglTerminate(last);
   setEglBackend(nullptr);
   fake = nullptr;
 }

@@ -367,7 +367,10 @@ TEST_F(RenderStateTest, AMutableImageIsUploadedWholeAtFirstAndInPartAfterAChange
   const std::vector<unsigned char> pixel = {1, 2, 3, 4};
   image->set(0, 0, 1, 1, pixel.data());
   image->set(1, 1, 1, 1, pixel.data());
-  apply(appearance);
+  driver.clear();
+  applyAppearance(appearance);
+  EXPECT_EQ(driver.calls("glTexImage2D").size(), 1u);
+  EXPECT_THAT(driver.calls("glTexSubImage2D"), IsEmpty());
   driver.clear();
   image->set(1, 0, 1, 1, pixel.data());
   image->set(0, 1, 1, 1, pixel.data());

@@ -296,6 +296,8 @@ TEST_F(VertexSubmissionTest, AStripThatReachesPastTheArraysIsSkipped) {
   EXPECT_THAT(draw(TriangleStripArray::create(1, lengths, 1)),
               ElementsAre("glDrawArrays(GL_TRIANGLE_STRIP, 1, 3)"));
   EXPECT_THAT(draw(TriangleStripArray::create(2, lengths, 1)), IsEmpty());
+  const int none[] = {0};
+  EXPECT_THAT(draw(TriangleStripArray::create(-5, none, 1)), IsEmpty());
   const int huge[] = {2147483647};
   EXPECT_THAT(draw(TriangleStripArray::create(2147483647, huge, 1)), IsEmpty());
 }
