@@ -169,6 +169,19 @@ std::uintptr_t XClient::createWindowOfDepth(int width, int height, int depth) {
   return window;
 }
 
+bool XClient::hasDepth(int depth) {
+  int count = 0;
+  int* depths = XListDepths(connection->display, DefaultScreen(connection->display), &count);
+  bool found = false;
+  for (int i = 0; depths && i < count; ++i) {
+    found = found || depths[i] == depth;
+  }
+  if (depths) {
+    XFree(depths);
+  }
+  return found;
+}
+
 std::uintptr_t XClient::createPixmap(int width, int height, int depth) {
   const Pixmap pixmap = XCreatePixmap(connection->display, DefaultRootWindow(connection->display),
                                       static_cast<unsigned>(width), static_cast<unsigned>(height),

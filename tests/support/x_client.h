@@ -40,6 +40,8 @@ class XClient {
   std::uintptr_t createWindow(int width, int height);
   std::uintptr_t createWindowOfDepth(int width, int height, int depth);
 
+  /// True if the screen has pixmaps of that depth.
+  bool hasDepth(int depth);
   std::uintptr_t createPixmap(int width, int height, int depth);
   void freePixmap(std::uintptr_t pixmap);
   /// Writes and reads one pixel in the pixmap's own form.
