@@ -5,7 +5,7 @@ namespace varnel_test {
 namespace {
 
 std::string numbered(const char* call, const void* reference) {
-  return std::string(call) + "(" + std::to_string(reinterpret_cast<long>(reference)) + ")";
+  return std::string(call) + "(" + std::to_string(reinterpret_cast<std::intptr_t>(reference)) + ")";
 }
 
 }  // namespace
@@ -23,7 +23,7 @@ FakeJava::FakeJava() {
   };
   natives.NewGlobalRef = [](JNIEnv* env, jobject reference) -> jobject {
     ownerOf(env).calls.push_back(numbered("NewGlobalRef", reference));
-    return object(reinterpret_cast<long>(reference) + 1000);
+    return object(reinterpret_cast<std::intptr_t>(reference) + 1000);
   };
   natives.DeleteGlobalRef = [](JNIEnv* env, jobject reference) {
     ownerOf(env).calls.push_back(numbered("DeleteGlobalRef", reference));
@@ -34,7 +34,8 @@ FakeJava::FakeJava() {
   };
   invocations.GetEnv = [](JavaVM* vm, void** env, jint version) -> jint {
     FakeJava& owner = ownerOf(vm);
-    owner.calls.push_back(numbered("GetEnv", reinterpret_cast<void*>(static_cast<long>(version))));
+    owner.calls.push_back(
+        numbered("GetEnv", reinterpret_cast<void*>(static_cast<std::intptr_t>(version))));
     *env = owner.attached ? owner.env() : nullptr;
     return owner.attached ? JNI_OK : JNI_EDETACHED;
   };

@@ -3,6 +3,7 @@
 
 #include <jni.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,7 @@ class FakeJava {
   JavaVM* vm() { return &machine.vm; }
 
   /// An object reference of the test's choice.
-  static jobject object(long number) { return reinterpret_cast<jobject>(number); }
+  static jobject object(std::intptr_t number) { return reinterpret_cast<jobject>(number); }
 
   bool attached = true;        ///< whether GetEnv succeeds
   bool attachSucceeds = true;  ///< whether AttachCurrentThread does
