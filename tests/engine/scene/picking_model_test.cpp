@@ -101,7 +101,7 @@ struct Hit {
 
 enum class Verdict { MISS, HIT, CLOSE_CALL };
 
-// The told test, with room around its limits.
+// The same test, with room around its limits.
 Verdict rayAgainst(Vec p0, Vec p1, Vec a, Vec b, Vec c, double& t, Vec& hit) {
   const Vec n = cross(b - a, c - a);
   if (length(n) < 0.01) {
