@@ -278,9 +278,8 @@ EGLBoolean egwSwapBuffers(EGLDisplay handle, EGLSurface surfaceHandle) {
   const bool shown = portSwapBuffers(display->connection, surface->drawable);
   egwReturnSurface();
   if (!shown) {
-    // Gone between the look at it and the swap.
-    egwRefreshSurface(*display, *surface);
-    return egwFail(EGL_BAD_SURFACE);
+    // Most likely the window has gone between the look at it and the swap.
+    return egwFail(egwRefreshSurface(*display, *surface) ? EGL_BAD_ALLOC : EGL_BAD_SURFACE);
   }
   return egwSucceed();
 }

@@ -1,10 +1,9 @@
 #include <cstdlib>
-#include <cstring>
 #include <new>
-#include <vector>
 
 #include "egl/backend/egw.h"
 #include "egl/backend/pixel_layout.h"
+#include "gles/driver/driver.h"
 
 namespace {
 
@@ -55,18 +54,21 @@ EGLImageKHR imageOfPixmap(EgwDisplay& display, EGLClientBuffer buffer) {
       !findPixelLayout(pixmap, &layout)) {
     return refuse(EGL_BAD_PARAMETER);
   }
-  const std::size_t stride = pixmapRowBytes(pixmap);
-  std::vector<unsigned char> rows(stride * static_cast<std::size_t>(pixmap.height));
-  if (!portReadPixmap(display.connection, bitmap, pixmap, rows.data())) {
+  const PixmapRows rows = allocatePixmapRows(pixmap);
+  if (!rows) {
+    return refuse(EGL_BAD_ALLOC);
+  }
+  if (!portReadPixmap(display.connection, bitmap, pixmap, rows.get())) {
     return refuse(EGL_BAD_PARAMETER);
   }
   EgwImage* image = allocateImage(EGW_IMAGE_PIXMAP, pixmap.width, pixmap.height);
   if (!image) {
     return refuse(EGL_BAD_ALLOC);
   }
+  const std::size_t stride = pixmapRowBytes(pixmap);
   for (int y = 0; y < pixmap.height; ++y) {
     const auto row = static_cast<std::size_t>(y);
-    widenPixelRow(pixmap, rows.data() + row * stride,
+    widenPixelRow(pixmap, rows.get() + row * stride,
                   image->words + row * static_cast<std::size_t>(pixmap.width));
   }
   return enter(display, image);
@@ -88,10 +90,11 @@ EGLImageKHR imageOfTexture(EgwDisplay& display, EGLClientBuffer buffer, int leve
   if (texture != 0 && width > 0 && height > 0) {
     image = allocateImage(EGW_IMAGE_TEXTURE, width, height);
     if (image) {
-      const int alignment = egw.es1.getPackAlignment();
-      egw.es1.glPixelStorei(glPackAlignment, 4);
+      int alignment = 4;
+      driver.glGetIntegerv(glPackAlignment, &alignment);
+      driver.glPixelStorei(glPackAlignment, 4);
       egw.es1.glGetTexImage(glTexture2d, level, glBgra, glUnsignedInt8888Rev, image->words);
-      egw.es1.glPixelStorei(glPackAlignment, alignment);
+      driver.glPixelStorei(glPackAlignment, alignment);
     }
   }
   egw.es1.glBindTexture(glTexture2d, static_cast<unsigned>(former));

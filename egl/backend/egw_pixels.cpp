@@ -1,7 +1,5 @@
 #include <algorithm>
 #include <bit>
-#include <cstring>
-#include <vector>
 
 #include "egl/backend/egw.h"
 #include "egl/backend/pixel_layout.h"
@@ -17,6 +15,35 @@ constexpr unsigned glRgb = 0x1907;
 constexpr unsigned glRgba = 0x1908;
 constexpr unsigned glUnsignedByte = 0x1401;
 constexpr unsigned glTexture2d = 0x0DE1;
+constexpr unsigned glFramebuffer = 0x8D40;
+constexpr unsigned glFramebufferBinding = 0x8CA6;
+
+/// While it lives, reads go to the surface itself and rows are packed to 4 bytes, whichever of the
+/// two OpenGL ES paths has set what. The driver is asked and not the paths' records, since each
+/// knows only of its own calls.
+class SurfaceReading {
+ public:
+  SurfaceReading() {
+    driver.glGetIntegerv(glPackAlignment, &alignment);
+    driver.glPixelStorei(glPackAlignment, 4);
+    if (driver.glBindFramebufferEXT) {
+      driver.glGetIntegerv(glFramebufferBinding, &framebuffer);
+      driver.glBindFramebufferEXT(glFramebuffer, 0);
+    }
+  }
+  ~SurfaceReading() {
+    if (driver.glBindFramebufferEXT) {
+      driver.glBindFramebufferEXT(glFramebuffer, static_cast<unsigned>(framebuffer));
+    }
+    driver.glPixelStorei(glPackAlignment, alignment);
+  }
+  SurfaceReading(const SurfaceReading&) = delete;
+  SurfaceReading& operator=(const SurfaceReading&) = delete;
+
+ private:
+  int alignment = 4;
+  int framebuffer = 0;
+};
 
 /// Reads the current surface's pixels from its top left corner into rows of the layout, from top to
 /// bottom; only what both sizes share.
@@ -25,20 +52,14 @@ void readRows(const EgwSurface& surface, const PortPixmapLayout& pixmap, const P
   const int width = std::min(surface.width, pixmap.width);
   const int height = std::min(surface.height, pixmap.height);
   const std::size_t stride = pixmapRowBytes(pixmap);
-  const int alignment = egw.es1.getPackAlignment();
-  egw.es1.glPixelStorei(glPackAlignment, 4);
+  const SurfaceReading reading;
   for (int y = 0; y < height; ++y) {
     egw.es1.glReadPixels(0, surface.height - 1 - y, width, 1, layout.format, layout.type,
                          rows + static_cast<std::size_t>(y) * stride);
   }
-  egw.es1.glPixelStorei(glPackAlignment, alignment);
 }
 
-std::size_t pixmapBytes(const PortPixmapLayout& pixmap) {
-  return pixmapRowBytes(pixmap) * static_cast<std::size_t>(pixmap.height);
-}
-
-/// The size a bitmap has in common with the surface that was made for it.
+/// True if the bitmap is as large as the surface.
 bool sameSize(const EgwSurface& surface, const PortPixmapLayout& pixmap) {
   return surface.width == pixmap.width && surface.height == pixmap.height;
 }
@@ -46,7 +67,7 @@ bool sameSize(const EgwSurface& surface, const PortPixmapLayout& pixmap) {
 }  // namespace
 
 void egwCopyBack() {
-  const EgwSurface* surface = egw.currentDraw;
+  EgwSurface* surface = egw.currentDraw;
   if (!surface || surface->type != EGW_PIXMAP || !surface->renderContext || !surface->drawable) {
     return;
   }
@@ -57,9 +78,14 @@ void egwCopyBack() {
       !findPixelLayout(pixmap, &layout) || !sameSize(*surface, pixmap)) {
     return;
   }
-  std::vector<unsigned char> rows(pixmapBytes(pixmap));
-  readRows(*surface, pixmap, layout, rows.data());
-  portWritePixmap(connection, surface->bitmap, pixmap, rows.data());
+  const PixmapRows rows = allocatePixmapRows(pixmap);
+  // What is read from may be another surface.
+  if (!rows || !egwBorrowSurface(*egw.currentDisplay, *surface)) {
+    return;
+  }
+  readRows(*surface, pixmap, layout, rows.get());
+  egwReturnSurface();
+  portWritePixmap(connection, surface->bitmap, pixmap, rows.get());
 }
 
 bool egwCopyIn() {
@@ -74,8 +100,8 @@ bool egwCopyIn() {
       !findPixelLayout(pixmap, &layout) || !sameSize(*surface, pixmap)) {
     return false;
   }
-  std::vector<unsigned char> rows(pixmapBytes(pixmap));
-  if (!portReadPixmap(connection, surface->bitmap, pixmap, rows.data())) {
+  const PixmapRows rows = allocatePixmapRows(pixmap);
+  if (!rows || !portReadPixmap(connection, surface->bitmap, pixmap, rows.get())) {
     return false;
   }
   // The rectangle fills the viewport, which may be smaller than the surface.
@@ -83,7 +109,7 @@ bool egwCopyIn() {
   driver.glGetIntegerv(glViewport, viewport);
   driver.glViewport(0, 0, surface->width, surface->height);
   egw.es1.drawPixelRectangle(surface->width, surface->height, layout.format, layout.type, 4,
-                             rows.data());
+                             rows.get());
   driver.glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
   return true;
 }
@@ -107,18 +133,21 @@ EGLBoolean egwCopyBuffers(EGLDisplay handle, EGLSurface surfaceHandle,
   if (!findPixelLayout(pixmap, &layout)) {
     return egwFail(EGL_BAD_MATCH);
   }
-  std::vector<unsigned char> rows(pixmapBytes(pixmap));
+  const PixmapRows rows = allocatePixmapRows(pixmap);
+  if (!rows) {
+    return egwFail(EGL_BAD_ALLOC);
+  }
   // What the surface does not cover stays as it is.
   if (!sameSize(*surface, pixmap) &&
-      !portReadPixmap(display->connection, bitmap, pixmap, rows.data())) {
+      !portReadPixmap(display->connection, bitmap, pixmap, rows.get())) {
     return egwFail(EGL_BAD_NATIVE_PIXMAP);
   }
   if (!egwBorrowSurface(*display, *surface)) {
     return egwFail(EGL_BAD_ACCESS);
   }
-  readRows(*surface, pixmap, layout, rows.data());
+  readRows(*surface, pixmap, layout, rows.get());
   egwReturnSurface();
-  if (!portWritePixmap(display->connection, bitmap, pixmap, rows.data())) {
+  if (!portWritePixmap(display->connection, bitmap, pixmap, rows.get())) {
     return egwFail(EGL_BAD_NATIVE_PIXMAP);
   }
   return egwSucceed();
@@ -128,14 +157,17 @@ namespace {
 
 /// Copies the pbuffer's pixels into the texture that is bound in the current OpenGL context.
 bool copyToTexture(const EgwDisplay& display, EgwSurface& surface) {
-  const std::size_t stride = static_cast<std::size_t>(surface.width) * 4;
-  std::vector<unsigned char> pixels(stride * static_cast<std::size_t>(surface.height));
-  if (!egwBorrowSurface(display, surface)) {
+  PortPixmapLayout size;
+  size.width = surface.width;
+  size.height = surface.height;
+  size.bitsPerPixel = 32;
+  const PixmapRows pixels = allocatePixmapRows(size);
+  if (!pixels || !egwBorrowSurface(display, surface)) {
     return false;
   }
-  for (int y = 0; y < surface.height; ++y) {
-    egw.es1.glReadPixels(0, y, surface.width, 1, glRgba, glUnsignedByte,
-                         pixels.data() + static_cast<std::size_t>(y) * stride);
+  {
+    const SurfaceReading reading;
+    egw.es1.glReadPixels(0, 0, surface.width, surface.height, glRgba, glUnsignedByte, pixels.get());
   }
   egwReturnSurface();
   int alignment = 4;
@@ -143,7 +175,7 @@ bool copyToTexture(const EgwDisplay& display, EgwSurface& surface) {
   driver.glPixelStorei(glUnpackAlignment, 4);
   const unsigned format = surface.textureFormat == EGL_TEXTURE_RGB ? glRgb : glRgba;
   driver.glTexImage2D(glTexture2d, 0, static_cast<int>(format), surface.width, surface.height, 0,
-                      glRgba, glUnsignedByte, pixels.data());
+                      glRgba, glUnsignedByte, pixels.get());
   driver.glPixelStorei(glUnpackAlignment, alignment);
   return true;
 }

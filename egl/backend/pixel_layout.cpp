@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstring>
+#include <new>
 
 namespace {
 
@@ -52,6 +53,11 @@ std::size_t pixmapRowBytes(const PortPixmapLayout& pixmap) {
   const auto bits =
       static_cast<std::size_t>(pixmap.width) * static_cast<std::size_t>(pixmap.bitsPerPixel);
   return (bits + 31) / 32 * 4;
+}
+
+PixmapRows allocatePixmapRows(const PortPixmapLayout& pixmap) {
+  const std::size_t size = pixmapRowBytes(pixmap) * static_cast<std::size_t>(pixmap.height);
+  return PixmapRows(new (std::nothrow) unsigned char[size]());
 }
 
 void widenPixelRow(const PortPixmapLayout& pixmap, const unsigned char* row, std::uint32_t* words) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 #include "egl/backend/port.h"
 
@@ -17,6 +18,11 @@ bool findPixelLayout(const PortPixmapLayout& pixmap, PixelLayout* layout);
 
 /// Bytes of one row, which is a multiple of 4.
 std::size_t pixmapRowBytes(const PortPixmapLayout& pixmap);
+
+/// Room for all rows of a bitmap.
+using PixmapRows = std::unique_ptr<unsigned char[]>;
+/// Zeroed; null when memory is short.
+PixmapRows allocatePixmapRows(const PortPixmapLayout& pixmap);
 
 /// Widens one pixel row of a bitmap that findPixelLayout knows into words 0xAARRGGBB. Alpha is what
 /// the top byte or bit says only in the 32-bit form; elsewhere it is 255.

@@ -6,6 +6,7 @@
 #include <bit>
 
 #include "egl/backend/egl_backend.h"
+#include "gles/driver/driver.h"
 #include "tests/support/x_client.h"
 
 extern "C" void glEGLImageTargetTexture2DOES(GLenum target, void* image);
@@ -225,6 +226,41 @@ TEST_F(Pixmaps, AFreedBitmapHarmsNobody) {
   EXPECT_FALSE(egl.waitNative(EGL_CORE_NATIVE_ENGINE));
   EXPECT_FALSE(egl.copyBuffers(display, surface, nativePixmap(pixmap)));
   EXPECT_EQ(egl.getError(), EGL_BAD_NATIVE_PIXMAP);
+}
+
+TEST_F(Pixmaps, TheSurfaceComesBackWhileAFramebufferObjectIsBound) {
+  const auto pixmap = client.createPixmap(4, 4, 24);
+  makeCurrent(4, pixmap);
+  drawOver(1, 0, 0);
+  GLuint texture = 0;
+  GLuint framebuffer = 0;
+  glGenTextures(1, &texture);
+  glBindTexture(GL_TEXTURE_2D, texture);
+  glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 4, 4, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+  driver.glGenFramebuffersEXT(1, &framebuffer);
+  driver.glBindFramebufferEXT(0x8D40, framebuffer);
+  driver.glFramebufferTexture2DEXT(0x8D40, 0x8CE0, GL_TEXTURE_2D, texture, 0);
+  glClearColor(0, 1, 0, 1);
+  glClear(GL_COLOR_BUFFER_BIT);
+  EXPECT_TRUE(egl.waitClient());
+  EXPECT_EQ(client.raw(pixmap, 1, 1) & 0xFFFFFF, 0xFF0000u);
+  GLint bound = 0;
+  driver.glGetIntegerv(0x8CA6, &bound);
+  EXPECT_EQ(bound, static_cast<GLint>(framebuffer));
+}
+
+TEST_F(Pixmaps, TheDrawnSurfaceComesBackAndNotTheOneThatIsRead) {
+  const auto pixmap = client.createPixmap(4, 4, 24);
+  const auto other = client.createPixmap(4, 4, 24);
+  EGLSurface read = makeCurrent(4, other);
+  clearPart(0, 0, 4, 4, 0, 1, 0);
+  EGLSurface draw = makeCurrent(4, pixmap);
+  ASSERT_TRUE(egl.makeCurrent(display, draw, read, egl.getCurrentContext()));
+  drawOver(1, 0, 0);
+  EXPECT_EQ(pixelAt(1, 1), 0x00FF00u);
+  EXPECT_TRUE(egl.waitClient());
+  EXPECT_EQ(client.raw(pixmap, 1, 1) & 0xFFFFFF, 0xFF0000u);
+  EXPECT_EQ(pixelAt(1, 1), 0x00FF00u);
 }
 
 TEST_F(Pixmaps, SwappingAPixmapSurfaceDoesNothing) {
