@@ -33,10 +33,29 @@ std::size_t recordCount(const ArrayLayout& layout, std::size_t bytes);
 void convertRecords(const ArrayLayout& layout, const unsigned char* source, std::size_t available,
                     std::size_t first, std::size_t last, float* out);
 
-/// The lowest and highest of `count` indices (more than 0) of type GL_UNSIGNED_BYTE or
-/// GL_UNSIGNED_SHORT. The indices need no alignment.
-void indexRange(unsigned type, const void* indices, std::size_t count, std::size_t& lowest,
-                std::size_t& highest);
+/// The elements that a draw reads: `first` to `last`, or of these the ones that indices name.
+struct ElementRange {
+  std::size_t first;
+  std::size_t last;
+  unsigned indexType = 0;
+  /// Null for a draw without indices.
+  const void* indices = nullptr;
+  /// How many indices there are.
+  std::size_t count = 0;
+};
+
+/// The range of `count` indices (more than 0) of type GL_UNSIGNED_BYTE or GL_UNSIGNED_SHORT. The
+/// indices need no alignment.
+ElementRange elementRange(unsigned type, const void* indices, std::size_t count);
+
+/// The index at a position.
+std::size_t indexAt(unsigned type, const void* indices, std::size_t position);
+
+/// Converts the records that a draw reads, as `convertRecords` does, in time linear in the shorter
+/// of the range and the indices. `out` stands for record 0; the places of other records are left
+/// alone.
+void convertElements(const ArrayLayout& layout, const unsigned char* source,
+                     const ElementRange& range, float* out);
 
 }  // namespace gles
 

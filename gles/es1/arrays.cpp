@@ -101,9 +101,9 @@ void pointAtFloats(unsigned name, const ArrayState& array, unsigned buffer, cons
   }
 }
 
-// Converts the elements `first` to `last` to floats and points the driver at them. False when the
+// Converts the elements of a draw to floats and points the driver at them. False when the
 // array has no data or memory is short.
-bool convertArray(unsigned name, ArrayState& array, std::size_t first, std::size_t last) {
+bool convertArray(unsigned name, ArrayState& array, const ElementRange& range) {
   const ArrayLayout layout{array.size, array.type, array.stride};
   if (array.bufferName) {
     BufferRecord* record = current->buffers.find(array.bufferName);
@@ -117,28 +117,27 @@ bool convertArray(unsigned name, ArrayState& array, std::size_t first, std::size
     return stream != 0;
   }
   const std::size_t size = static_cast<std::size_t>(array.size);
-  if (last >= SIZE_MAX / (size * sizeof(float)) ||
-      !array.converted.reserve((last + 1) * size * sizeof(float))) {
+  if (range.last >= SIZE_MAX / (size * sizeof(float)) ||
+      !array.converted.reserve((range.last + 1) * size * sizeof(float))) {
     return false;
   }
   auto* floats = reinterpret_cast<float*>(array.converted.data);
-  convertRecords(layout, static_cast<const unsigned char*>(array.pointer), SIZE_MAX, first, last,
-                 floats + first * size);
+  convertElements(layout, static_cast<const unsigned char*>(array.pointer), range, floats);
   pointAtFloats(name, array, 0, floats);
   return true;
 }
 
 }  // namespace
 
-PreparedArrays::PreparedArrays(std::size_t first, std::size_t last) {
-  prepare(GL_VERTEX_ARRAY, current->vertexArray, first, last);
-  prepare(GL_NORMAL_ARRAY, current->normalArray, first, last);
-  prepare(GL_COLOR_ARRAY, current->colorArray, first, last);
+PreparedArrays::PreparedArrays(const ElementRange& range) {
+  prepare(GL_VERTEX_ARRAY, current->vertexArray, range);
+  prepare(GL_NORMAL_ARRAY, current->normalArray, range);
+  prepare(GL_COLOR_ARRAY, current->colorArray, range);
   for (std::size_t i = 0; i < current->units.size(); ++i) {
     if (current->units[i].texCoordArray.enabled) {
       const ScopedClientUnit unit(GL_TEXTURE0 + static_cast<unsigned>(i));
       const std::size_t before = dropped_.size();
-      prepare(GL_TEXTURE_COORD_ARRAY, current->units[i].texCoordArray, first, last);
+      prepare(GL_TEXTURE_COORD_ARRAY, current->units[i].texCoordArray, range);
       if (dropped_.size() > before) {
         dropped_.back().second = GL_TEXTURE0 + static_cast<unsigned>(i);
       }
@@ -146,14 +145,13 @@ PreparedArrays::PreparedArrays(std::size_t first, std::size_t last) {
   }
 }
 
-void PreparedArrays::prepare(unsigned name, ArrayState& array, std::size_t first,
-                             std::size_t last) {
+void PreparedArrays::prepare(unsigned name, ArrayState& array, const ElementRange& range) {
   if (!array.enabled) {
     return;
   }
   bool usable = array.bufferName != 0 || array.pointer != nullptr;
   if (usable && needsConversion(name, array.type)) {
-    usable = convertArray(name, array, first, last);
+    usable = convertArray(name, array, range);
   } else if (BufferRecord* record = current->buffers.find(array.bufferName)) {
     ensureLoaded(current->buffers, *record);
   }
@@ -257,7 +255,7 @@ void GL_APIENTRY glDrawArrays(GLenum mode, GLint first, GLsizei count) {
     return;
   }
   const auto begin = static_cast<std::size_t>(first);
-  const es1::PreparedArrays prepared(begin, begin + static_cast<std::size_t>(count) - 1);
+  const es1::PreparedArrays prepared({begin, begin + static_cast<std::size_t>(count) - 1});
   driver.glDrawArrays(mode, first, count);
 }
 
@@ -277,10 +275,7 @@ void GL_APIENTRY glDrawElements(GLenum mode, GLsizei count, GLenum type, const v
   if (!indices) {
     return;
   }
-  std::size_t lowest = 0;
-  std::size_t highest = 0;
-  indexRange(type, indices, length, lowest, highest);
-  const es1::PreparedArrays prepared(lowest, highest);
+  const es1::PreparedArrays prepared(elementRange(type, indices, length));
   driver.glDrawElements(mode, count, type, indices);
 }
 

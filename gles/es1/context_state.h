@@ -82,13 +82,13 @@ ArrayState* arrayOf(unsigned name);
 /// dies.
 class PreparedArrays {
  public:
-  PreparedArrays(std::size_t first, std::size_t last);
+  explicit PreparedArrays(const ElementRange& range);
   PreparedArrays(const PreparedArrays&) = delete;
   PreparedArrays& operator=(const PreparedArrays&) = delete;
   ~PreparedArrays();
 
  private:
-  void prepare(unsigned name, ArrayState& array, std::size_t first, std::size_t last);
+  void prepare(unsigned name, ArrayState& array, const ElementRange& range);
 
   /// Arrays that are off for this draw: name and texture unit.
   std::vector<std::pair<unsigned, unsigned>> dropped_;

@@ -30,9 +30,8 @@ void pointAtFloats(unsigned index, int size, unsigned buffer, const void* floats
   }
 }
 
-// Converts the elements `first` to `last` of a fixed-point attribute and points the driver at them.
-bool convertAttribute(unsigned index, AttributeState& attribute, std::size_t first,
-                      std::size_t last) {
+// Converts the elements of a draw of a fixed-point attribute and points the driver at them.
+bool convertAttribute(unsigned index, AttributeState& attribute, const ElementRange& range) {
   const ArrayLayout layout{attribute.size, attribute.type, attribute.stride};
   if (attribute.bufferName) {
     BufferRecord* record = current->buffers.find(attribute.bufferName);
@@ -46,27 +45,26 @@ bool convertAttribute(unsigned index, AttributeState& attribute, std::size_t fir
     return stream != 0;
   }
   const auto size = static_cast<std::size_t>(attribute.size);
-  if (last >= SIZE_MAX / (size * sizeof(float)) ||
-      !attribute.converted.reserve((last + 1) * size * sizeof(float))) {
+  if (range.last >= SIZE_MAX / (size * sizeof(float)) ||
+      !attribute.converted.reserve((range.last + 1) * size * sizeof(float))) {
     return false;
   }
   auto* floats = reinterpret_cast<float*>(attribute.converted.data);
-  convertRecords(layout, static_cast<const unsigned char*>(attribute.pointer), SIZE_MAX, first,
-                 last, floats + first * size);
+  convertElements(layout, static_cast<const unsigned char*>(attribute.pointer), range, floats);
   pointAtFloats(index, attribute.size, 0, floats);
   return true;
 }
 
-// What a draw of the elements `first` to `last` needs in the driver; undone when it dies.
+// What a draw of the elements of a range needs in the driver; undone when it dies.
 class PreparedDraw {
  public:
-  PreparedDraw(GLenum mode, std::size_t first, std::size_t last) : points_(mode == GL_POINTS) {
+  PreparedDraw(GLenum mode, const ElementRange& range) : points_(mode == GL_POINTS) {
     for (unsigned i = 0; i < attributeCount(); ++i) {
       if (current->attributes[i].enabled) {
-        prepare(i, current->attributes[i], first, last);
+        prepare(i, current->attributes[i], range);
       }
     }
-    supplyAttributeZero(first, last);
+    supplyAttributeZero(range);
     if (points_) {
       driver.glEnable(desktop::POINT_SPRITE);
       driver.glEnable(desktop::VERTEX_PROGRAM_POINT_SIZE);
@@ -88,10 +86,10 @@ class PreparedDraw {
   }
 
  private:
-  void prepare(unsigned index, AttributeState& attribute, std::size_t first, std::size_t last) {
+  void prepare(unsigned index, AttributeState& attribute, const ElementRange& range) {
     bool usable = attribute.bufferName != 0 || attribute.pointer != nullptr;
     if (usable && attribute.type == GL_FIXED) {
-      usable = convertAttribute(index, attribute, first, last);
+      usable = convertAttribute(index, attribute, range);
     } else if (BufferRecord* record = current->buffers.find(attribute.bufferName)) {
       ensureLoaded(current->buffers, *record);
     }
@@ -103,18 +101,18 @@ class PreparedDraw {
 
   // Desktop OpenGL draws nothing while attribute 0 has no array; OpenGL ES takes its constant
   // value.
-  void supplyAttributeZero(std::size_t first, std::size_t last) {
+  void supplyAttributeZero(const ElementRange& range) {
     const bool dropped = !dropped_.empty() && dropped_.front() == 0;
     AttributeState& zero = current->attributes[0];
     if (zero.enabled && !dropped) {
       return;
     }
-    if (last >= SIZE_MAX / (4 * sizeof(float)) ||
-        !zero.converted.reserve((last + 1) * 4 * sizeof(float))) {
+    if (range.last >= SIZE_MAX / (4 * sizeof(float)) ||
+        !zero.converted.reserve((range.last + 1) * 4 * sizeof(float))) {
       return;
     }
     auto* floats = reinterpret_cast<float*>(zero.converted.data);
-    for (std::size_t i = first; i <= last; ++i) {
+    for (std::size_t i = range.first; i <= range.last; ++i) {
       std::copy(current->attributeZero.begin(), current->attributeZero.end(), floats + 4 * i);
     }
     pointAtFloats(0, 4, 0, floats);
@@ -296,7 +294,7 @@ void glDrawArrays(GLenum mode, GLint first, GLsizei count) {
     return;
   }
   const auto begin = static_cast<std::size_t>(first);
-  const PreparedDraw prepared(mode, begin, begin + static_cast<std::size_t>(count) - 1);
+  const PreparedDraw prepared(mode, {begin, begin + static_cast<std::size_t>(count) - 1});
   driver.glDrawArrays(mode, first, count);
 }
 
@@ -316,10 +314,7 @@ void glDrawElements(GLenum mode, GLsizei count, GLenum type, const void* indices
   if (!indices) {
     return;
   }
-  std::size_t lowest = 0;
-  std::size_t highest = 0;
-  indexRange(type, indices, length, lowest, highest);
-  const PreparedDraw prepared(mode, lowest, highest);
+  const PreparedDraw prepared(mode, elementRange(type, indices, length));
   driver.glDrawElements(mode, count, type, indices);
 }
 

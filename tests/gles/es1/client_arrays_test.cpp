@@ -134,15 +134,33 @@ TEST(ClientArrays, IndexedDrawsConvertUpToTheHighestIndex) {
   const std::vector<GLbyte> vertices = {0, 1, 2, 3, 4, 5, 6, 7};
   glEnableClientState(GL_VERTEX_ARRAY);
   glVertexPointer(2, GL_BYTE, 0, vertices.data());
-  const GLubyte bytes[] = {0, 3, 1};
-  glDrawElements(GL_TRIANGLES, 3, GL_UNSIGNED_BYTE, bytes);
+  const GLubyte bytes[] = {0, 3, 1, 2};
+  glDrawElements(GL_TRIANGLE_FAN, 4, GL_UNSIGNED_BYTE, bytes);
   EXPECT_THAT(seen.values, ElementsAre(0, 1, 2, 3, 4, 5, 6, 7));
   const GLushort shorts[] = {3, 0, 2};
   glDrawElements(GL_TRIANGLES, 3, GL_UNSIGNED_SHORT, shorts);
   EXPECT_EQ(recording.lastAddress("glDrawElements"), shorts);
   EXPECT_THAT(recording.calls("glDrawElements"),
-              ElementsAre("glDrawElements(GL_TRIANGLES, 3, GL_UNSIGNED_BYTE, <ptr>)",
+              ElementsAre("glDrawElements(GL_TRIANGLE_FAN, 4, GL_UNSIGNED_BYTE, <ptr>)",
                           "glDrawElements(GL_TRIANGLES, 3, GL_UNSIGNED_SHORT, <ptr>)"));
+}
+
+TEST(ClientArrays, AFewIndicesInAWideRangeAreConvertedAlone) {
+  RecordingDriver recording;
+  const SeenAtDraw seen(recording, "glVertexPointer", 12, "glDrawElements");
+  std::vector<GLbyte> vertices(12);
+  for (std::size_t i = 0; i < vertices.size(); ++i) {
+    vertices[i] = static_cast<GLbyte>(i);
+  }
+  glEnableClientState(GL_VERTEX_ARRAY);
+  glVertexPointer(2, GL_BYTE, 0, vertices.data());
+  glDrawArrays(GL_POINTS, 0, 6);
+  for (GLbyte& component : vertices) {
+    component = static_cast<GLbyte>(component + 50);
+  }
+  const GLushort indices[] = {5, 1};
+  glDrawElements(GL_LINES, 2, GL_UNSIGNED_SHORT, indices);
+  EXPECT_THAT(seen.values, ElementsAre(0, 1, 52, 53, 4, 5, 6, 7, 8, 9, 60, 61));
 }
 
 TEST(ClientArrays, WideIndicesAreRefusedByTheDriver) {

@@ -204,6 +204,16 @@ TEST_P(Es2Drawing, ShadersThatGuardTheirPrecision) {
   expectHalves(red, black);
 }
 
+TEST_P(Es2Drawing, MessagesNameTheLinesAsTheClientCountsThem) {
+  const char* wrong = "precision mediump float;\n\nvoid main() { nonsense; }\n";
+  const GLuint shader = es2::glCreateShader(GL_FRAGMENT_SHADER);
+  es2::glShaderSource(shader, 1, &wrong, nullptr);
+  es2::glCompileShader(shader);
+  char log[1024] = {};
+  es2::glGetShaderInfoLog(shader, sizeof log, nullptr, log);
+  EXPECT_THAT(log, testing::HasSubstr("0:3("));
+}
+
 TEST_P(Es2Drawing, ABlockOfPixelsBesideAProgram) {
   const GLuint program = usedProgram(plainVertexShader, plainFragmentShader);
   es2::glVertexAttribPointer(0, 2, GL_FLOAT, GL_FALSE, 0, leftFloats);
