@@ -93,6 +93,8 @@ int runScenes(int version, const std::vector<Scene>& scenes, int argumentCount, 
     std::fprintf(stderr, "no EGL configuration (0x%x)\n", static_cast<unsigned>(eglGetError()));
     return 1;
   }
+  sceneName = "commands";
+  reportAnswer("count", {static_cast<double>(countCommands())});
   for (const Scene& scene : scenes) {
     if (isWanted(scene.name, argumentCount, arguments) &&
         !runScene(display, config, version, scene)) {

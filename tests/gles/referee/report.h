@@ -1,6 +1,7 @@
 #ifndef VARNEL_TESTS_GLES_REFEREE_REPORT_H
 #define VARNEL_TESTS_GLES_REFEREE_REPORT_H
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,9 @@ extern const char* sceneName;
 void reportPicture();
 /// Reports values under a name.
 void reportAnswer(const std::string& name, const std::vector<double>& values);
+
+/// How many commands the published header declares; naming them all links the program with each.
+std::size_t countCommands();
 
 /// Runs each scene in a fresh context of that version of OpenGL ES on a fresh surface, and reports.
 /// `arguments` may name the scenes to run. The exit code of the program.
