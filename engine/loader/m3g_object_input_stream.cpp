@@ -238,7 +238,11 @@ void M3gObjectInputStream::requireRest(std::uint64_t count, std::uint64_t elemen
 }
 
 void M3gObjectInputStream::claimUnbacked(std::uint64_t bytes) {
-  if (bytes > unbackedMemoryLimit - unbackedMemory) {
+  findFileSize();
+  const std::uint64_t limit =
+      unbackedMemoryBase +
+      unbackedMemoryPerByte * static_cast<std::uint64_t>(std::max<std::int64_t>(fileSize, 0));
+  if (bytes > limit - unbackedMemory) {
     throw std::bad_alloc();
   }
   unbackedMemory += bytes;

@@ -21,8 +21,10 @@ namespace varnel_m3g {
 /// bytesLeft(), requireRest() and the array reads.
 class M3gObjectInputStream : public std::ifstream {
  public:
-  /// Bytes of objects that a load may make without data in the file to fill them.
-  static constexpr std::uint64_t unbackedMemoryLimit = 64u << 20;
+  /// Bytes that a load may take for objects without data in the file to fill them, whatever the
+  /// file's size, and what each byte of the file adds to it.
+  static constexpr std::uint64_t unbackedMemoryBase = 64u << 20;
+  static constexpr std::uint64_t unbackedMemoryPerByte = 64;
 
   M3gObjectInputStream() = default;
 
@@ -83,7 +85,7 @@ class M3gObjectInputStream : public std::ifstream {
   void requireRest(std::uint64_t count, std::uint64_t elementSize);
 
   /// Counts `bytes` of an object's store that no data in the file fills. Throws std::bad_alloc when
-  /// the load has claimed more than unbackedMemoryLimit.
+  /// the load has claimed more than its file entitles it to.
   void claimUnbacked(std::uint64_t bytes);
 
   void resetChecksum() { adler = 1; }

@@ -176,7 +176,7 @@ TEST(Loader, ATotalLengthBelowTheOverheadHasNoObjects) {
   for (const std::uint32_t length : {0u, 12u, 13u}) {
     M3gSection section;
     section.totalLength = length;
-    section.stored = "";
+    section.stored.emplace();
     const Loaded loaded = loadBytes(M3gFile().section(section).stored({anyFog()}).bytes());
     EXPECT_EQ(loaded.failure, "") << length;
     EXPECT_EQ(loaded.objects.size(), 2u) << length;

@@ -213,7 +213,9 @@ TEST_F(StreamTest, RequireRestRefusesCountsThatTheFileCannotHold) {
 }
 
 TEST_F(StreamTest, ClaimsOfUnbackedMemoryAreLimited) {
-  stream.claimUnbacked(M3gObjectInputStream::unbackedMemoryLimit - 1);
+  open(std::string(10, 'x'));
+  stream.claimUnbacked(M3gObjectInputStream::unbackedMemoryBase - 1);
+  stream.claimUnbacked(10 * M3gObjectInputStream::unbackedMemoryPerByte);
   stream.claimUnbacked(1);
   EXPECT_THROW(stream.claimUnbacked(1), std::bad_alloc);
   EXPECT_THROW(stream.claimUnbacked(std::numeric_limits<std::uint64_t>::max()), std::bad_alloc);
