@@ -45,3 +45,8 @@ if(VARNEL_COVERAGE)
   target_compile_options(varnel_options INTERFACE --coverage)
   target_link_options(varnel_options INTERFACE --coverage)
 endif()
+
+option(VARNEL_SKIN_DEBUG "Write the matrices of skinned meshes to the standard error stream" OFF)
+if(VARNEL_SKIN_DEBUG)
+  target_compile_definitions(varnel_options INTERFACE VARNEL_SKIN_DEBUG)
+endif()
