@@ -79,6 +79,7 @@ class PreparedDraw {
     }
     if (zeroSupplied_) {
       driver.glDisableVertexAttribArray(0);
+      restorePointerOfZero();
     }
     for (const unsigned index : dropped_) {
       driver.glEnableVertexAttribArray(index);
@@ -118,6 +119,24 @@ class PreparedDraw {
     pointAtFloats(0, 4, 0, floats);
     driver.glEnableVertexAttribArray(0);
     zeroSupplied_ = true;
+  }
+
+  // The client may enable its own array again without giving the pointer again. Fixed-point arrays
+  // are pointed at for each draw.
+  void restorePointerOfZero() {
+    const AttributeState& zero = current->attributes[0];
+    const unsigned bound = current->buffers.boundArrayBuffer;
+    if (zero.type == GL_FIXED) {
+      return;
+    }
+    if (zero.bufferName != bound) {
+      driver.glBindBuffer(GL_ARRAY_BUFFER, zero.bufferName);
+    }
+    driver.glVertexAttribPointer(0, zero.size, zero.type, zero.normalized, zero.stride,
+                                 zero.pointer);
+    if (zero.bufferName != bound) {
+      driver.glBindBuffer(GL_ARRAY_BUFFER, bound);
+    }
   }
 
   bool points_;

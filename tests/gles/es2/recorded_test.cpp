@@ -163,8 +163,26 @@ TEST(Es2Draws, GiveAttributeZeroAnArrayWhenItHasNone) {
               ElementsAre("glGetIntegerv(GL_MAX_VERTEX_ATTRIBS, <ptr>)",
                           "glVertexAttribPointer(0, 4, GL_FLOAT, 0, 0, <ptr>)",
                           "glEnableVertexAttribArray(0)", "glDrawArrays(GL_TRIANGLES, 1, 3)",
-                          "glDisableVertexAttribArray(0)"));
+                          "glDisableVertexAttribArray(0)",
+                          "glVertexAttribPointer(0, 4, GL_FLOAT, 0, 0, null)"));
   EXPECT_THAT(seen, ElementsAre(1, 2, 3, 4));
+}
+
+TEST(Es2Draws, LeaveThePointerOfAttributeZeroAsItWasGiven) {
+  RecordingDriver recording;
+  es2::glBindBuffer(GL_ARRAY_BUFFER, 5);
+  es2::glVertexAttribPointer(0, 2, GL_SHORT, GL_TRUE, 8, offset(4));
+  es2::glBindBuffer(GL_ARRAY_BUFFER, 6);
+  recording.clear();
+  es2::glDrawArrays(GL_TRIANGLES, 0, 3);
+  EXPECT_THAT(recording.take(),
+              ElementsAre("glBindBuffer(GL_ARRAY_BUFFER, 0)",
+                          "glVertexAttribPointer(0, 4, GL_FLOAT, 0, 0, <ptr>)",
+                          "glBindBuffer(GL_ARRAY_BUFFER, 6)", "glEnableVertexAttribArray(0)",
+                          "glDrawArrays(GL_TRIANGLES, 0, 3)", "glDisableVertexAttribArray(0)",
+                          "glBindBuffer(GL_ARRAY_BUFFER, 5)",
+                          "glVertexAttribPointer(0, 2, GL_SHORT, 1, 8, <ptr>)",
+                          "glBindBuffer(GL_ARRAY_BUFFER, 6)"));
 }
 
 TEST(Es2Draws, OfPointsHaveSpritesAndSizesOfTheProgram) {
