@@ -1,4 +1,4 @@
-// Writes the sample scenes into the folder that is its one argument. What each file shows is told
+// Writes the sample scenes into the folder that is its one argument. What each file shows is listed
 // in samples/README.md.
 
 #include <cmath>

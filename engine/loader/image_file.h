@@ -25,7 +25,7 @@ class ImageFile {
   explicit operator bool() const { return file != nullptr; }
   std::FILE* get() const { return file; }
 
-  /// Bytes in the whole file, 0 if that cannot be told; the reading position is kept.
+  /// Bytes in the whole file, 0 if that is unknown; the reading position is kept.
   std::uint64_t size() const;
 
  private:

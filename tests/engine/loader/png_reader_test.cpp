@@ -244,7 +244,7 @@ TEST_F(PngFailures, OfAnImageThatItsFileCannotHold) {
   EXPECT_EQ(failureOf(bytes), damaged);
 }
 
-TEST_F(PngFailures, AtAnyCutAreTold) {
+TEST_F(PngFailures, AtAnyCutHaveTheirTexts) {
   const std::string good = pngFile(imageOf(3, 4, true));
   for (std::size_t length = 0; length < good.size(); ++length) {
     const std::string failure = failureOf(good.substr(0, length));

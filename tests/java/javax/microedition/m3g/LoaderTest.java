@@ -395,7 +395,7 @@ public class LoaderTest {
     }
 
     @Test
-    public void theLinesOfALoadGoToTheToldStreams() throws IOException, InterruptedException {
+    public void theHeaderGoesToTheOutputAndUnknownTypesToTheErrorStream() throws IOException, InterruptedException {
         String name = file(new M3gBytes().object(SPRITE_3D, node()));
         ChildJvm.Result result = ChildJvm.run(LoadMain.class, name);
         assertEquals(result.toString(), 0, result.exitCode);
