@@ -24,9 +24,9 @@ int truncated(double value) {
   return static_cast<int>(std::min(value, limit));
 }
 
-/// The last pixel of an edge that starts at first.
-float lastPixel(int first, int size) {
-  return static_cast<float>(static_cast<double>(first) + size - 1.0);
+/// The last pixel of an edge that starts at first; wraps around far outside any target.
+int lastPixel(int first, int size) {
+  return static_cast<int>(static_cast<long long>(first) + size - 1);
 }
 
 }  // namespace
@@ -40,8 +40,10 @@ void Graphics3D::clear(const boost::shared_ptr<Background>& background) {
   glLoadIdentity();
   const Rectangle& view = glViewportRect;
   glViewport(view.x, view.y, view.width, view.height);
-  glOrthof(static_cast<GLfloat>(view.x), lastPixel(view.x, view.width),
-           static_cast<GLfloat>(view.y), lastPixel(view.y, view.height), 0.0f, 1.0f);
+  const int right = lastPixel(view.x, view.width);
+  const int top = lastPixel(view.y, view.height);
+  glOrthof(static_cast<GLfloat>(view.x), static_cast<GLfloat>(right), static_cast<GLfloat>(view.y),
+           static_cast<GLfloat>(top), 0.0f, 1.0f);
   applyDefaultCompositing();
   glDisable(GL_LIGHTING);
   GLbitfield mask = 0;
@@ -67,7 +69,7 @@ void Graphics3D::clear(const boost::shared_ptr<Background>& background) {
     used.getImage()->getTexture()->bind();
     glTexParameterf(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, static_cast<GLfloat>(GL_LINEAR));
     glTexParameterf(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, static_cast<GLfloat>(GL_LINEAR));
-    used.drawImage(view.x, view.x + view.width - 1, view.y + view.height - 1, view.y);
+    used.drawImage(view.x, right, top, view.y);
     glDisable(GL_TEXTURE_2D);
     glDisableClientState(GL_VERTEX_ARRAY);
     CoordArrays::get().disable();

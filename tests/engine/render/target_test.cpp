@@ -191,10 +191,12 @@ TEST_F(TargetTest, TheViewportCoversTheTargetWhenItHoldsAllOfIt) {
 TEST_F(TargetTest, AViewportFarOutsideOverflowsNothing) {
   bind();
   const int far = std::numeric_limits<int>::max();
+  auto background = Background::create();
+  background->setImage(Image2D::create(Image2D::RGB, 4, 4));
   EXPECT_NO_THROW(graphics.setViewport(far, far, 10, 10));
-  EXPECT_NO_THROW(graphics.clear(nullptr));
+  EXPECT_NO_THROW(graphics.clear(background));
   EXPECT_NO_THROW(graphics.setViewport(-far - 1, -far - 1, 10, 10));
-  EXPECT_NO_THROW(graphics.clear(nullptr));
+  EXPECT_NO_THROW(graphics.clear(background));
 }
 
 TEST_F(TargetTest, TheDepthRangeIsTestedAfterTheTarget) {
