@@ -271,6 +271,27 @@ TEST_F(VertexSubmissionTest, TwoTexturedUnitsLeaveOneMatrixPushed) {
       << "only the last unit's array goes off";
 }
 
+TEST_F(VertexSubmissionTest, EightUnitsLeaveTheLastOneActiveAndTheClientAtTheLastArray) {
+  maxTextureUnits = 8;
+  appearance = plainAppearance();
+  auto buffer = unitQuad();
+  for (const int unit : {0, 3}) {
+    appearance->setTexture(unit, Texture2D::create(imageOf(Image2D::RGB, 1, 1, {1, 2, 3})));
+    buffer->setTexCoords(unit, coords(), 1.0f, nullptr);
+  }
+  driver.clear();
+  applyAppearance(appearance);
+  setupVertexArrays(*buffer, 1.0f, *appearance);
+  drawIndexBuffer(strip, *quadStrip());
+  finishVertexArrays();
+  EXPECT_EQ(driver.calls("glActiveTexture").back(), "glActiveTexture(GL_TEXTURE7)");
+  EXPECT_EQ(driver.calls("glClientActiveTexture").back(), "glClientActiveTexture(GL_TEXTURE3)");
+  // Both matrices were pushed on their own units; the one pop meets the last unit, which has none.
+  EXPECT_EQ(driver.calls("glPushMatrix").size(), 2u);
+  EXPECT_EQ(driver.calls("glPopMatrix").size(), 1u);
+  EXPECT_EQ(driver.calls("glDrawArrays").size(), 1u);
+}
+
 TEST_F(VertexSubmissionTest, AnImplicitStripIsDrawnFromTheArrays) {
   setup(unitQuad());
   EXPECT_THAT(draw(quadStrip()), ElementsAre("glDrawArrays(GL_TRIANGLE_STRIP, 0, 4)"));
