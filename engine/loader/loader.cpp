@@ -1,5 +1,6 @@
 #include "engine/loader/loader.h"
 
+#include <boost/pointer_cast.hpp>
 #include <cctype>
 #include <new>
 #include <stdexcept>
@@ -7,6 +8,7 @@
 
 #include "engine/loader/m3g_object_input_stream.h"
 #include "engine/object/object3d.h"
+#include "engine/scene/group.h"
 #include "engine/surface/image2d.h"
 
 namespace varnel_m3g {
@@ -14,6 +16,16 @@ namespace {
 
 bool holds(const std::string& name, const char* extension) {
   return name.rfind(extension) != std::string::npos;
+}
+
+/// Hands root, depth and pending updates down from the groups at the top of the loaded trees.
+void settleTrees(const ObjectTable& objects) {
+  for (const boost::shared_ptr<Object3D>& object : objects) {
+    const boost::shared_ptr<Group> group = boost::dynamic_pointer_cast<Group>(object);
+    if (group && !group->getParent()) {
+      group->updateSceneGraphInfo(boost::weak_ptr<Node>());
+    }
+  }
 }
 
 [[noreturn]] void throwOutOfMemory() {
@@ -55,6 +67,7 @@ void Loader::load(const char* name, ObjectTable& objects) {
       readSection(stream, objects);
     }
     objects.erase(objects.begin());
+    settleTrees(objects);
   } catch (const std::bad_alloc&) {
     throwOutOfMemory();
   } catch (const std::length_error&) {

@@ -198,6 +198,12 @@ void Node::setRenderingEnable(bool enable) {
 }
 
 void Node::addChild(boost::shared_ptr<Node> child) {
+  if (adopt(child)) {
+    child->updateSceneGraphInfo(nodeFromThis());
+  }
+}
+
+bool Node::adopt(const boost::shared_ptr<Node>& child) {
   if (!child) {
     throw std::invalid_argument("child is null.");
   }
@@ -210,7 +216,7 @@ void Node::addChild(boost::shared_ptr<Node> child) {
   }
   if (const boost::shared_ptr<Node> present = child->parent.lock()) {
     if (present.get() == this) {
-      return;
+      return false;
     }
     throw std::invalid_argument("Attempt to add a child that already has a parent");
   }
@@ -224,7 +230,8 @@ void Node::addChild(boost::shared_ptr<Node> child) {
     std::lock_guard<Mutex> lock(mutex);
     children.push_back(child);
   }
-  child->updateSceneGraphInfo(nodeFromThis());
+  child->parent = nodeFromThis();
+  return true;
 }
 
 void Node::removeChild(boost::shared_ptr<Node> child) {

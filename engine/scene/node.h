@@ -138,6 +138,9 @@ class Node : public Transformable {
   /// Sets the defaults and makes the node its own root; it must be held by a shared_ptr.
   void initialise();
   boost::shared_ptr<Node> nodeFromThis();
+  /// The checks and the linking of addChild() alone: root, depth and pending updates of the child's
+  /// subtree wait for updateSceneGraphInfo() of a node above. False if the child is one already.
+  bool adopt(const boost::shared_ptr<Node>& child);
 
  private:
   /// Sets the node's own defaults and makes it its own root.

@@ -5,10 +5,15 @@
 #include <stdexcept>
 
 #include "engine/object/user_object.h"
+#include "engine/scene/camera.h"
+#include "engine/scene/group.h"
+#include "engine/scene/light.h"
+#include "engine/scene/world.h"
 #include "engine/surface/fog.h"
 #include "engine/surface/image2d.h"
 #include "tests/support/image_writer.h"
 #include "tests/support/loading.h"
+#include "tests/support/small_stack.h"
 #include "tests/support/temporary_folder.h"
 
 namespace varnel_m3g {
@@ -410,6 +415,44 @@ TEST_F(ExternalReference, CanBeNamedByLaterRecords) {
   const Loaded loaded = loadRecords({M3gRecord(EXTERNAL_REFERENCE).text("a.png"), anyTexture(2)});
   EXPECT_EQ(loaded.failure, "");
   EXPECT_EQ(loaded.objects.size(), 3u);
+}
+
+// Walking the chain anew for each group that holds it would take minutes.
+TEST(Loader, AChainOfManyGroupsIsLinkedInOneWalk) {
+  constexpr int count = 100000;
+  runOnSmallStack([] {
+    std::vector<M3gRecord> records{anyGroup()};
+    for (int child = 2; child < count + 1; ++child) {
+      records.push_back(M3gRecord(GROUP).plainNode().int32(1).int32(child));
+    }
+    const Loaded loaded = loadRecords(records);
+    ASSERT_EQ(loaded.failure, "");
+    const auto leaf = loaded.at<Group>(2);
+    const auto middle = loaded.at<Group>(2 + count / 2);
+    const auto top = loaded.at<Group>(count + 1);
+    EXPECT_EQ(leaf->getDepth(), count - 1);
+    EXPECT_EQ(middle->getDepth(), count - 1 - count / 2);
+    EXPECT_EQ(top->getDepth(), 0);
+    EXPECT_EQ(leaf->getRoot().lock(), top);
+    EXPECT_EQ(middle->getRoot().lock(), top);
+    EXPECT_EQ(top->getRoot().lock(), top);
+    EXPECT_TRUE(middle->isUpdatePending());
+    EXPECT_TRUE(middle->isChildUpdatePending());
+  });
+}
+
+TEST(Loader, CamerasAndLightsOfALoadedWorldAreItsOwnInTheOrderOfTheTree) {
+  const Loaded loaded =
+      loadRecords({anyCamera(), anyLight(), anyCamera(),
+                   M3gRecord(GROUP).plainNode().int32(2).int32(4).int32(3),
+                   M3gRecord(WORLD).plainNode().int32(2).int32(5).int32(2).int32(2).int32(0)});
+  ASSERT_EQ(loaded.failure, "");
+  const auto world = loaded.at<World>(6);
+  ASSERT_EQ(world->getCameras().size(), 2u);
+  EXPECT_EQ(world->getCameras()[0], loaded.at<Camera>(4));
+  EXPECT_EQ(world->getCameras()[1], loaded.at<Camera>(2));
+  ASSERT_EQ(world->getLights().size(), 1u);
+  EXPECT_EQ(world->getLights()[0], loaded.at<Light>(3));
 }
 
 TEST(Loader, AFailureKeepsTheTextOfTheSetter) {
