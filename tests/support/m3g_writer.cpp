@@ -120,7 +120,7 @@ std::string M3gRecord::object(std::optional<std::uint32_t> claimedLength) const 
 }
 
 std::string M3gSection::bytes() const {
-  const std::string data = stored.value_or(scheme == 1 ? zlibStream(objects) : objects);
+  const std::string data = storedBytes ? *storedBytes : scheme == 1 ? zlibStream(objects) : objects;
   std::string section;
   append(section, static_cast<std::uint64_t>(scheme), 1);
   append(section, totalLength.value_or(static_cast<std::uint32_t>(data.size() + 13)), 4);
@@ -165,7 +165,7 @@ std::string M3gFile::bytes() const {
   M3gSection header;
   header.scheme = headerScheme;
   header.objects = record.object();
-  header.stored = header.objects;
+  header.storeAs(header.objects);
   header.checksum = headerChecksum;
   return "\xABJSR184\xBB\r\n\x1A\n" + header.bytes() + body;
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -86,15 +87,20 @@ class M3gRecord {
 };
 
 /// A section; what is not set is as the objects demand.
-struct M3gSection {
+class M3gSection {
+ public:
   int scheme = 0;       // 1 compresses the objects
   std::string objects;  // as they stand uncompressed
-  std::optional<std::string> stored;
   std::optional<std::uint32_t> totalLength;
   std::optional<std::uint32_t> uncompressedLength;
   std::optional<std::uint32_t> checksum;
 
+  /// Puts these bytes in the place of the objects.
+  void storeAs(const std::string& bytes) { storedBytes = std::make_shared<std::string>(bytes); }
   std::string bytes() const;
+
+ private:
+  std::shared_ptr<std::string> storedBytes;
 };
 
 /// A whole file: header and sections.

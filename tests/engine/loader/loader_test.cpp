@@ -119,8 +119,9 @@ TEST(Loader, ACorruptCompressedSectionLosesItsObjectsAlone) {
   M3gSection section;
   section.scheme = 1;
   section.objects = anyFog().object();
-  section.stored = zlibStream(section.objects);
-  section.stored->at(1) = '\0';
+  std::string corrupt = zlibStream(section.objects);
+  corrupt[1] = '\0';
+  section.storeAs(corrupt);
   const Loaded loaded = loadBytes(M3gFile().section(section).stored({anyImage()}).bytes());
   EXPECT_EQ(loaded.failure, "");
   ASSERT_EQ(loaded.objects.size(), 2u);
@@ -181,7 +182,7 @@ TEST(Loader, ATotalLengthBelowTheOverheadHasNoObjects) {
   for (const std::uint32_t length : {0u, 12u, 13u}) {
     M3gSection section;
     section.totalLength = length;
-    section.stored.emplace();
+    section.storeAs("");
     const Loaded loaded = loadBytes(M3gFile().section(section).stored({anyFog()}).bytes());
     EXPECT_EQ(loaded.failure, "") << length;
     EXPECT_EQ(loaded.objects.size(), 2u) << length;
