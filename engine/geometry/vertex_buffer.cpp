@@ -102,8 +102,8 @@ unsigned VertexBuffer::getReferences(boost::shared_ptr<Object3D>* references, un
     }
     ++count;
   };
-  for (const boost::shared_ptr<VertexArray>& array : texCoordArrays) {
-    report(array);
+  for (int unit = 0; unit < entryCount(); ++unit) {
+    report(texCoordArray(unit));
   }
   report(colors);
   report(normals);
@@ -129,7 +129,7 @@ void VertexBuffer::dump() {
   if (colors) {
     logf("Colors  ID: %u", idOf(colors));
   }
-  for (int unit = 0; unit < static_cast<int>(texCoordArrays.size()); ++unit) {
+  for (int unit = 0; unit < entryCount(); ++unit) {
     if (texCoordArray(unit)) {
       const float* const unitBias = texCoordBias(unit);
       logf("Texture %u", static_cast<unsigned>(unit));
@@ -151,7 +151,7 @@ boost::shared_ptr<Object3D> VertexBuffer::duplicateImpl(boost::shared_ptr<Object
   copy->setDefaultColor(getDefaultColor());
   copy->setNormals(normals);
   copy->setPositions(positions, positionScale, positionBias.get());
-  for (int unit = 0; unit < static_cast<int>(texCoordArrays.size()); ++unit) {
+  for (int unit = 0; unit < entryCount(); ++unit) {
     if (texCoordArray(unit)) {
       copy->setTexCoords(unit, texCoordArray(unit), texCoordScale(unit), texCoordBias(unit));
     }
@@ -364,7 +364,7 @@ void VertexBuffer::printContents() const {
     std::printf("There is color\n");
     colors->printValues();
   }
-  for (int unit = 0; unit < static_cast<int>(texCoordArrays.size()); ++unit) {
+  for (int unit = 0; unit < entryCount(); ++unit) {
     if (texCoordArray(unit)) {
       const float* const unitBias = texCoordBias(unit);
       std::printf("Examine texture vertex array\n");
@@ -405,8 +405,12 @@ bool VertexBuffer::fits(const VertexArray& array) const {
   return count == 0 || array.getVertexCount() == count;
 }
 
+int VertexBuffer::entryCount() const {
+  return std::min(maxTextureUnits, static_cast<int>(texCoordArrays.size()));
+}
+
 bool VertexBuffer::unitHasEntry(int unit) const {
-  return unit >= 0 && static_cast<std::size_t>(unit) < texCoordArrays.size();
+  return unit >= 0 && unit < entryCount();
 }
 
 }  // namespace varnel_m3g

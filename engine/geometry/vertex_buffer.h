@@ -105,6 +105,9 @@ class VertexBuffer : public Object3D {
   /// Makes the per-unit tables, or lets them grow with the engine's unit count.
   void provideTexCoordTables();
   bool fits(const VertexArray& array) const;
+  /// Units of the engine that have an entry in the tables; the engine may have fewer or more by now
+  /// than when they were made.
+  int entryCount() const;
   bool unitHasEntry(int unit) const;
 
   unsigned char defaultColor[4] = {255, 255, 255, 255};  // R, G, B, A

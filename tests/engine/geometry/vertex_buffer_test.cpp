@@ -363,6 +363,24 @@ TEST(VertexBuffer, TablesMadeWithFewerUnitsGrow) {
   expectScaleBias(scaleBias, 2, 1, 2, 3);
 }
 
+TEST(VertexBuffer, UnitsThatTheEngineNoLongerHasAreOutOfSight) {
+  const auto buffer = VertexBuffer::create();
+  const auto first = newArray(4, 2);
+  const auto last = newArray(4, 2);
+  const TextureUnits limit(8);
+  buffer->setTexCoords(0, first, 2.0f, nullptr);
+  buffer->setTexCoords(2, last, 3.0f, nullptr);
+  {
+    const TextureUnits fewer(2);
+    EXPECT_EQ(referencesOf(*buffer), (std::vector<boost::shared_ptr<Object3D>>{first}));
+    EXPECT_FALSE(buffer->getArray(3 + 2));
+    EXPECT_EQ(outputOf([&] { buffer->dump(); }).find("Texture 2"), std::string::npos);
+    EXPECT_EQ(duplicateOf(*buffer)->getTexCoords(0, nullptr), first);
+  }
+  EXPECT_EQ(referencesOf(*buffer), (std::vector<boost::shared_ptr<Object3D>>{first, last}));
+  EXPECT_EQ(buffer->getArray(3 + 2), last);
+}
+
 TEST(VertexBuffer, SelectsItsArraysByNumber) {
   const TextureUnits limit(2);
   const auto buffer = VertexBuffer::create();
