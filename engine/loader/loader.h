@@ -20,7 +20,8 @@ class Loader {
  public:
   /// Appends to `objects` all objects of the file in file order, after one empty entry; of an image
   /// file its Image2D alone. The name decides on the kind: one that holds ".png", ".jpg" or
-  /// ".jpeg", in whatever case, is that image file, any other an .m3g file.
+  /// ".jpeg", in whatever case, is that image file, any other an .m3g file. What a failed load has
+  /// appended is for dropping only: its images have lost their textures' share in them.
   static void load(const char* name, ObjectTable& objects);
 
   /// Loading from memory: always throws std::runtime_error.
@@ -38,6 +39,7 @@ class Loader {
   static constexpr int checksumMismatch = -105;
   static constexpr int unknownCompressionScheme = -106;
 
+  static void readFile(const char* name, ObjectTable& objects);
   static int readSection(M3gObjectInputStream& stream, ObjectTable& objects);
   static void appendObject(M3gObjectInputStream& stream, ObjectTable& objects);
   static boost::shared_ptr<Object3D> readObject(M3gObjectInputStream& stream, ObjectTable& objects);

@@ -50,6 +50,10 @@ void Image2D::load(M3gObjectInputStream& stream, ObjectTable& table) {
   if (pixelLength < pixelCount * pixelSize) {
     throw std::runtime_error("Invalid pixel array length in Image2D file constructor");
   }
+  if (!newPixels) {
+    // An image of no pixels, without even a byte too many: fails as any set from no array does.
+    set(0, 0, width, height, nullptr);
+  }
   allocate(format, width, height, true);
   storePixels(newPixels.get(), pixelLength);
 }

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <boost/weak_ptr.hpp>
 #include <stdexcept>
+#include <vector>
 
 #include "engine/object/user_object.h"
 #include "engine/scene/camera.h"
@@ -11,6 +13,7 @@
 #include "engine/scene/world.h"
 #include "engine/surface/fog.h"
 #include "engine/surface/image2d.h"
+#include "engine/surface/image_texture.h"
 #include "tests/support/image_writer.h"
 #include "tests/support/loading.h"
 #include "tests/support/small_stack.h"
@@ -235,6 +238,45 @@ TEST(Loader, TheLengthOfAnUnknownObjectEndsWithTheFile) {
   const Loaded loaded = loadBytes(M3gFile().section(section).bytes());
   EXPECT_EQ(loaded.failure, "");
   EXPECT_EQ(loaded.objects.size(), 1u);
+}
+
+TEST(Loader, AFailureReleasesTheObjectsReadSoFar) {
+  const TemporaryFolder folder;
+  const auto external = [&folder] {
+    return M3gRecord(EXTERNAL_REFERENCE).text(folder.write("small.png", smallPng()));
+  };
+  const M3gRecord badTexture = anyTexture(1000);
+  M3gRecord badDensity(FOG);
+  badDensity.object3D().rgb(0).byte(80).float32(-1.0f);
+  M3gRecord badLayer(APPEARANCE);
+  badLayer.object3D().byte(200);
+  M3gRecord tooLarge(IMAGE_2D);
+  tooLarge.object3D().byte(100).boolean(true).int32(0x7FFFFFFF).int32(0x7FFFFFFF);
+  for (const M3gRecord& last : {badTexture, badDensity, badLayer, tooLarge}) {
+    Loaded loaded =
+        loadRecords({anyImage(), anyTexture(2), external(), anyTexture(4), anyFog(), last});
+    ASSERT_NE(loaded.failure, "");
+    std::vector<boost::weak_ptr<Object3D>> watches(loaded.objects.begin(), loaded.objects.end());
+    ASSERT_EQ(watches.size(), 7u);
+    loaded.objects.clear();
+    for (const auto& watch : watches) {
+      EXPECT_TRUE(watch.expired());
+    }
+  }
+}
+
+TEST(Loader, ObjectsOfBeforeAreNotTheFailuresConcern) {
+  Loaded loaded = loadRecords({anyImage()});
+  boost::weak_ptr<Object3D> watch;
+  {
+    ObjectTable table = {loaded.at<Image2D>(2)};
+    watch = table[0];
+    EXPECT_THROW(Loader::load("no such file", table), std::runtime_error);
+    loaded.objects.clear();
+  }
+  ASSERT_FALSE(watch.expired());
+  boost::dynamic_pointer_cast<Image2D>(watch.lock())->getTexture()->releaseImage();
+  EXPECT_TRUE(watch.expired());
 }
 
 TEST(Loader, ASpriteMovesAllLaterIndicesByOne) {

@@ -1,6 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <boost/weak_ptr.hpp>
+#include <utility>
+
+#include "engine/loader/m3g_object_input_stream.h"
 #include "engine/object/engine_limits.h"
 #include "engine/surface/appearance.h"
 #include "engine/surface/background.h"
@@ -12,6 +16,7 @@
 #include "engine/surface/polygon_mode.h"
 #include "engine/surface/texture2d.h"
 #include "tests/support/loading.h"
+#include "tests/support/temporary_folder.h"
 
 namespace varnel_m3g {
 namespace {
@@ -334,6 +339,61 @@ TEST(Image2DRecord, FailuresHaveTheirTexts) {
                 "std::runtime_error: Invalid pixel array length in Image2D file constructor"}};
   for (const auto& each : cases) {
     EXPECT_EQ(loadRecords({each.record}).failure, each.failure);
+  }
+}
+
+TEST(Image2DRecord, OfNoPixelsFailsAsASetFromNoArray) {
+  for (const auto& [width, height] : {std::pair{0, 0}, {0, 3}, {3, 0}}) {
+    EXPECT_EQ(
+        loadRecords({imageHead(99, false, width, height).byteArray("").byteArray("")}).failure,
+        "std::invalid_argument: Image2D.set(x, y, w, h, byteImage ) --Null image reference");
+    EXPECT_EQ(
+        loadRecords({imageHead(99, false, width, height).byteArray("").byteArray("a")}).failure,
+        "");
+  }
+}
+
+/// Reads an image record alone, whose image must be gone with its owner here. Returns the text of
+/// the failure.
+std::string failureWithoutAnImageLeft(const M3gRecord& record) {
+  const TemporaryFolder folder;
+  M3gObjectInputStream stream;
+  stream.open(folder.write("image", record.data()), std::ios::in | std::ios::binary);
+  ObjectTable table;
+  boost::shared_ptr<Image2D> image(new Image2D);
+  const boost::weak_ptr<Image2D> watch(image);
+  std::string failure;
+  try {
+    image->load(stream, table);
+  } catch (const std::exception& error) {
+    failure = error.what();
+  }
+  image.reset();
+  EXPECT_TRUE(watch.expired()) << failure;
+  return failure;
+}
+
+TEST(Image2DRecord, ThatFailsLeavesNoImage) {
+  const struct {
+    M3gRecord record;
+    const char* failure;
+  } cases[] = {
+      {imageHead(95, false, 1, 1), "Invalid format for Image2D"},
+      {imageHead(99, true, -1, 1), "Bad dimension for Image2D"},
+      {imageHead(99, true, 0x7FFFFFFF, 0x7FFFFFFF), "std::bad_alloc"},
+      {imageHead(99, false, 1, -1).byteArray("").byteArray("abc"), "Bad dimension for Image2D"},
+      {imageHead(99, false, 1, 1).byteArray("abcd").byteArray("a"),
+       "Invalid palette array length in Image2D file constructor"},
+      {imageHead(99, false, 2, 2).byteArray("abc").byteArray("abc"),
+       "Invalid pixel index array length in Image2D file constructor"},
+      {imageHead(99, false, 2, 2).byteArray("").byteArray("abc"),
+       "Invalid pixel array length in Image2D file constructor"},
+      {imageHead(99, false, 0, 0).byteArray("").byteArray(""),
+       "Image2D.set(x, y, w, h, byteImage ) --Null image reference"},
+      {imageHead(100, false, 5, 0).byteArray("").byteArray(""),
+       "Image2D.set(x, y, w, h, byteImage ) --Null image reference"}};
+  for (const auto& each : cases) {
+    EXPECT_EQ(failureWithoutAnImageLeft(each.record), each.failure);
   }
 }
 
