@@ -148,7 +148,7 @@ public class MappingGlTest {
     }
 
     @Test
-    public void renderingANodeRaisesIllegalArgumentAndIllegalState() {
+    public void renderingANodeRaisesAllThreeKinds() {
         illegalArgument("Render called for a null node",
                 () -> graphics.renderN(graphics.handle, 0, 0));
         illegalArgument(
@@ -159,6 +159,13 @@ public class MappingGlTest {
         bind();
         illegalState("Render called when no currentCamera defined.",
                 () -> graphics.renderN(graphics.handle, group.handle, 0));
+        graphics.setCameraN(graphics.handle, new Camera().handle, 0);
+        Group flat = new Group();
+        flat.setScale(0, 0, 0);
+        flat.addChild(camera);
+        world.addChild(flat);
+        world.setActiveCamera(camera);
+        arithmetic(SINGULAR, () -> graphics.renderN(graphics.handle, world.handle, 0));
     }
 
     @Test

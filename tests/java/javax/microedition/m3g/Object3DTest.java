@@ -2,12 +2,14 @@ package javax.microedition.m3g;
 
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
+import static org.junit.Assert.assertFalse;
 import static org.junit.Assert.assertNotSame;
 import static org.junit.Assert.assertNull;
 import static org.junit.Assert.assertSame;
 import static org.junit.Assert.assertThrows;
 import static org.junit.Assert.assertTrue;
 
+import java.lang.ref.WeakReference;
 import java.nio.file.Path;
 import org.junit.Rule;
 import org.junit.Test;
@@ -328,6 +330,28 @@ public class Object3DTest {
         assertSame(track, copy.getAnimationTrack(0));
         copy.setUserID(2);
         assertEquals(1, fog.getUserID());
+    }
+
+    /** Whether the peer of an ended handle can be collected, which the native object decides. */
+    private static boolean isCollected(WeakReference<?> peer) throws InterruptedException {
+        for (int i = 0; i < 10 && peer.get() != null; i++) {
+            System.gc();
+            Thread.sleep(10);
+        }
+        return peer.get() == null;
+    }
+
+    private static WeakReference<Object3D> ended(Object3D object) {
+        object.destroyObject3DN(object.handle);
+        return new WeakReference<>(object);
+    }
+
+    @Test
+    public void aDuplicateOutlivesTheHandleOfItsPeer() throws Exception {
+        Fog fog = new Fog();
+        WeakReference<Object3D> copy = ended(fog.duplicate());
+        assertTrue(isCollected(ended(new Fog())));
+        assertFalse(isCollected(copy));
     }
 
     @Test
