@@ -267,6 +267,28 @@ TEST(Object3DReset, EmptiesUserDataAndKeepsTracks) {
   EXPECT_EQ(object->getAnimationTrackCount(), 1U);
 }
 
+TEST(Object3DReset, ForgetsTheReferencesOfTheLastPassAndDoesNotFreeThem) {
+  const auto object = TestObject::create();
+  const auto reference = TestObject::create();
+  object->references = {reference};
+  object->animate(0);
+  object->references.clear();
+  object->reset();
+  EXPECT_EQ(reference.use_count(), 2);
+  object->references = {reference};
+  object->animate(0);
+  EXPECT_EQ(reference.use_count(), 4);
+}
+
+TEST(Object3D, LeavesTheReferencesOfItsLastPassAlive) {
+  auto object = TestObject::create();
+  const auto reference = TestObject::create();
+  object->references = {reference};
+  object->animate(0);
+  object.reset();
+  EXPECT_EQ(reference.use_count(), 2);
+}
+
 TEST(Object3DDump, WritesEveryField) {
   const auto object = TestObject::create(-1);
   object->addAnimationTrack(newTrack(7));
