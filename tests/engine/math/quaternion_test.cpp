@@ -355,6 +355,16 @@ TEST(QuatSlerpShortest, BlendsOrthogonalQuaternionsAsNearOnes) {
               ElementsAre(FloatNear(0.75F, 1e-6F), FloatNear(0.25F, 1e-6F), 0, 0));
 }
 
+TEST(QuatSlerpShortest, ReducesTheAngleOfOrthogonalQuaternions) {
+  // Far outside 0..1 the arcs of an angle of 0.001 are seen: sin(-1.999) and sin(2).
+  const Quaternion a = {1, 0, 0, 0};
+  const Quaternion b = {0, 1, 0, 0};
+  const double length = std::hypot(std::sin(1.999), std::sin(2.0));
+  EXPECT_THAT(slerpShortest(2000, a, b),
+              ElementsAre(FloatNear(static_cast<float>(-std::sin(1.999) / length), 1e-6F),
+                          FloatNear(static_cast<float>(std::sin(2.0) / length), 1e-6F), 0, 0));
+}
+
 TEST(QuatSlerpShortest, NormalisesOnlyAResultAboveOne) {
   const Quaternion a = {2, 0, 0, 0};
   EXPECT_THAT(slerpShortest(0.5F, a, a), ElementsAre(1, 0, 0, 0));

@@ -226,6 +226,25 @@ TEST(TransformInvert, TakesAZeroRow) {
   EXPECT_GT(largest, 1e30F);
 }
 
+TEST(TransformInvert, HasTheSmallestNormalNumberForAPivotOfZero) {
+  // The first and the last column are the same.
+  Transform transform = fromRows({1, 0, 0, 1, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0});
+  transform.invert();
+  const float huge = 1.0F / std::numeric_limits<float>::min();
+  EXPECT_EQ(transform.data()[12], huge);
+  EXPECT_EQ(transform.data()[15], -huge);
+}
+
+TEST(TransformInvert, MovesTheScaleOfARowThatMakesRoomForAPivot) {
+  // The second column goes first, and the first one to its place. It is large in another element
+  // than its second: with the scale of the column that has left it would be the next pivot, and
+  // the 2 would be lost beside its large element.
+  const float large = 134217728.0F;
+  Transform transform = fromRows({0, 1, 0, 0, 1, 0, 1, 0, large, 0, 2, 0, 0, 0, 0, 1});
+  transform.invert();
+  EXPECT_EQ(transform.data()[4], -2.0F / large);
+}
+
 TEST(TransformInvert, TakesTheLastOfEqualPivots) {
   // The last two columns score alike for the third pivot. With the last one as the pivot the sums
   // go through 1 / 7, which rounds; with the first one they would be exact.

@@ -231,6 +231,11 @@ TEST(TransformableComposite, IsComputedOnceForEachChange) {
   EXPECT_EQ(composite.data()[12], 0);
   EXPECT_EQ(&object->updateComposite(), &composite);
   EXPECT_EQ(composite.data()[12], 5);
+  // A mark in the cached matrix lasts until the next change.
+  const_cast<Transform&>(composite).data()[3] = 9;
+  EXPECT_EQ(object->updateComposite().data()[3], 9);
+  object->setTranslation(6, 0, 0);
+  EXPECT_EQ(object->updateComposite().data()[3], 0);
 }
 
 TEST(TransformableComposite, IsSingularWithAScaleOfZeroWithoutComplaint) {
