@@ -112,6 +112,10 @@ void KeyframeSequence::allocate(int numKeyframes, int numComponents, int interpo
   }
   const std::size_t count = static_cast<std::size_t>(numKeyframes);
   const std::size_t stride = static_cast<std::size_t>(std::max(numComponents, splineWidth));
+  // The product of the two could wrap where a size has 32 bits.
+  if (stride > keyframes.max_size() / count) {
+    throw std::length_error("KeyframeSequence: too many values");
+  }
   keyframes.assign(count * stride, 0.0F);
   times.assign(count, 0);
   validList.assign(count + 1, 0);

@@ -28,7 +28,8 @@ class KeyframeSequence : public Object3D {
   KeyframeSequence() = default;
 
   /// Throws std::invalid_argument for fewer than one keyframe or component, or a spherical
-  /// interpolation of fewer than four components. Any interpolation is stored.
+  /// interpolation of fewer than four components, and std::length_error for more values than fit
+  /// into memory's addresses. Any interpolation is stored.
   static boost::shared_ptr<KeyframeSequence> create(int numKeyframes, int numComponents,
                                                     int interpolation);
 

@@ -71,6 +71,13 @@ TEST(KeyframeSequence, ChecksItsSizesInOrder) {
   }
 }
 
+TEST(KeyframeSequence, RefusesMoreValuesThanASizeCounts) {
+  const int most = std::numeric_limits<int>::max();
+  EXPECT_EQ(failure<std::length_error>(
+                [most] { KeyframeSequence::create(most, most, KeyframeSequence::LINEAR); }),
+            "KeyframeSequence: too many values");
+}
+
 TEST(KeyframeSequence, BeginsWithTheFullRangeAndNoDuration) {
   const auto sequence = KeyframeSequence::create(3, 2, KeyframeSequence::STEP);
   EXPECT_EQ(sequence->getKeyframeCount(), 3);
