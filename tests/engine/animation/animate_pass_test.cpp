@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -207,6 +208,38 @@ TEST(AnimatePass, ServesAChainOfAnyDepthOnASmallStack) {
     }
     addConstantTrack(*end, AnimationTrack::DENSITY, {1});
     EXPECT_EQ(top->animate(0), 0);
+  });
+}
+
+// Each controller has a track, whose controller has a track. Returns the last controller.
+boost::shared_ptr<Object3D> addChainOfTracks(Object3D& object) {
+  addConstantTrack(object, AnimationTrack::DENSITY, {2});
+  boost::shared_ptr<Object3D> end = object.getAnimationTrack(0)->getController();
+  for (int depth = 1; depth < 100000; ++depth) {
+    addConstantTrack(*end, AnimationTrack::DENSITY, {3});
+    end = end->getAnimationTrack(0)->getController();
+  }
+  return end;
+}
+
+TEST(AnimatePass, ServesAChainOfControllersOfAnyDepthOnASmallStack) {
+  varnel_test::runOnSmallStack([] {
+    const auto fog = Fog::create();
+    const auto end = addChainOfTracks(*fog);
+    addConstantTrack(*end, AnimationTrack::DENSITY, {4});
+    end->getAnimationTrack(0)->setUserID(8);
+    EXPECT_EQ(fog->animate(0), 0);
+    EXPECT_EQ(fog->getDensity(), 2.0F);
+    EXPECT_EQ(fog->find(8), end->getAnimationTrack(0));
+  });
+}
+
+TEST(AnimatePass, AChainOfControllersOfAnyDepthEndsOnASmallStack) {
+  varnel_test::runOnSmallStack([] {
+    auto fog = Fog::create();
+    const boost::weak_ptr<Object3D> end = addChainOfTracks(*fog);
+    fog.reset();
+    EXPECT_TRUE(end.expired());
   });
 }
 

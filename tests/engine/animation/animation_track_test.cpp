@@ -174,22 +174,27 @@ TEST(AnimationTrack, ADuplicateSharesSequenceAndController) {
 }
 
 TEST(AnimationTrack, DumpsTheNameOfItsProperty) {
-  const std::pair<int, const char*> table[] = {{256, "PropertyID:ALPHA\n"},
-                                               {266, "PropertyID:MORPH_WEIGHTS\n"},
-                                               {276, "PropertyID:VISIBILITY\n"},
-                                               {277, "PropertyID:UNKNOWN(277)\n"},
-                                               {-1, "PropertyID:UNKNOWN(4294967295)\n"}};
-  for (const auto& [property, line] : table) {
+  const std::pair<int, std::string> table[] = {
+      {256, "ALPHA"},          {257, "AMBIENT_COLOR"},  {258, "COLOR"},
+      {259, "CROP"},           {260, "DENSITY"},        {261, "DIFFUSE_COLOR"},
+      {262, "EMISSIVE_COLOR"}, {263, "FAR_DISTANCE"},   {264, "FIELD_OF_VIEW"},
+      {265, "INTENSITY"},      {266, "MORPH_WEIGHTS"},  {267, "NEAR_DISTANCE"},
+      {268, "ORIENTATION"},    {269, "PICKABILITY"},    {270, "SCALE"},
+      {271, "SHININESS"},      {272, "SPECULAR_COLOR"}, {273, "SPOT_ANGLE"},
+      {274, "SPOT_EXPONENT"},  {275, "TRANSLATION"},    {276, "VISIBILITY"},
+      {255, "UNKNOWN(255)"},   {277, "UNKNOWN(277)"},   {-1, "UNKNOWN(4294967295)"}};
+  for (const auto& [property, name] : table) {
     const auto track = constantTrack(property, {1});
     track->getKeyframeSequence()->setUserID(7);
     track->getController()->setUserID(8);
     testing::internal::CaptureStdout();
     track->dump();
     const std::string text = testing::internal::GetCapturedStdout();
-    EXPECT_NE(text.find(std::string("AnimationTrack Object\n=====================\n"
-                                    "KeyframeSequence ID: 7\nAnimationController ID: 8\n") +
-                        line),
-              std::string::npos)
+    EXPECT_NE(
+        text.find(std::string("AnimationTrack Object\n=====================\n"
+                              "KeyframeSequence ID: 7\nAnimationController ID: 8\nPropertyID:") +
+                  name + "\n"),
+        std::string::npos)
         << text;
   }
 }

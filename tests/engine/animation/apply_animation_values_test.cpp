@@ -187,6 +187,7 @@ std::vector<Row> rows() {
   return {
       {256, {0.25F}, onNodes("alpha", "0.25")},
       {257, {1, 0, 0}, {{"Material", {"ambient", "1"}}}},
+      {257, {1, 1}, {}},
       {258,
        {0, 1, 0},
        {{"VertexBuffer", {"color", "1"}},
@@ -208,7 +209,9 @@ std::vector<Row> rows() {
       {260, {2.5F}, {{"Fog", {"density", "2.5"}}}},
       {260, {-2.5F}, {{"Fog", {"density", "0"}}}},
       {261, {0, 0, 0}, {{"Material", {"diffuse", "1"}}}},
+      {261, {1, 1}, {}},
       {262, {0, 0, 0}, {{"Material", {"emissive", "1"}}}},
+      {262, {1, 1}, {}},
       {263,
        {7},
        {{"parallel Camera", {"projection", "49 2 1 3 7"}},
@@ -243,6 +246,7 @@ std::vector<Row> rows() {
       {271, {-1}, {}},
       {271, {129}, {{"Material", {"shininess", "128"}}}},
       {272, {0, 0, 0}, {{"Material", {"specular", "1"}}}},
+      {272, {1, 1}, {}},
       {273, {60}, {{"Light", {"spot angle", "60"}}}},
       {273, {91}, {{"Light", {"spot angle", "90"}}}},
       {273, {-1}, {{"Light", {"spot angle", "0"}}}},
@@ -393,6 +397,7 @@ TEST(ApplyAnimationValues, ARefusedValueEndsTheObjectsTurn) {
        264,
        {200},
        "Camera.setPerspective - fovy argument must be less than 180 degrees"},
+      {"perspective Camera", 263, {-7}, "Camera.setPerspective - far argument must be >= 0.0"},
       {"perspective Camera", 264, {-1}, "Camera.setPerspective - fovy argument must be >= 0.0"},
   };
   for (const Case& c : cases) {
@@ -407,6 +412,17 @@ TEST(ApplyAnimationValues, ARefusedValueEndsTheObjectsTurn) {
     }
     EXPECT_EQ(stateOf(*object)["translation"], "0 0 0");
   }
+}
+
+TEST(ApplyAnimationValues, AFarDistanceWithoutPerspectiveMayBeNegative) {
+  const boost::shared_ptr<Object3D> camera = makeCamera(49);
+  addConstantTrack(*camera, AnimationTrack::FAR_DISTANCE, {-7});
+  camera->animate(0);
+  EXPECT_EQ(stateOf(*camera)["projection"], "49 2 1 3 -7");
+  const boost::shared_ptr<Object3D> fog = classes().at("Fog")();
+  addConstantTrack(*fog, AnimationTrack::FAR_DISTANCE, {-7});
+  fog->animate(0);
+  EXPECT_EQ(stateOf(*fog)["linear"], "3 -7");
 }
 
 TEST(ApplyAnimationValues, ParallelHeightStaysPositive) {
