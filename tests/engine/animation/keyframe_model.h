@@ -188,8 +188,11 @@ struct KeyframeModel {
     }
     const double w = std::clamp(q[3], -1.0, 1.0);
     const double sn = std::sqrt(1 - w * w);
-    // Below a sine of 0.01 the rounding of w moves angle and axis visibly.
-    limit(sn, 0.0, 0.01);
+    // Near a full turn the rounding of w turns the axis of a long logarithm. Near none the
+    // logarithm itself is too short to matter.
+    if (w < 0) {
+      limit(sn, 0.0, 0.01);
+    }
     if (sn < 0.001) {
       return {std::acos(w), 0, 0};
     }
