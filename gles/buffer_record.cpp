@@ -279,11 +279,14 @@ void ensureLoaded(const BufferObjects& buffers, BufferRecord& record) {
   record.loaded = true;
 }
 
-unsigned convertedStream(const BufferObjects& buffers, BufferRecord& record,
-                         const ArrayLayout& layout, std::size_t offset) {
-  if (offset >= record.size) {
-    return 0;
+StreamPlace convertedStream(const BufferObjects& buffers, BufferRecord& record,
+                            const ArrayLayout& layout, std::size_t offset) {
+  const std::size_t stride = recordStride(layout);
+  if (offset >= record.size || stride == 0) {
+    return {};
   }
+  const std::size_t phase = offset % stride;
+  const std::size_t recordBytes = static_cast<std::size_t>(layout.size) * sizeof(float);
   if (record.pendingConversion) {
     for (ConvertedStream* stream = record.streams; stream; stream = stream->next) {
       stream->stale = true;
@@ -291,23 +294,24 @@ unsigned convertedStream(const BufferObjects& buffers, BufferRecord& record,
     record.pendingConversion = false;
   }
   ConvertedStream* stream = record.streams;
-  while (stream && !(stream->layout == layout && stream->offset == offset)) {
+  while (stream && !(stream->layout == layout && stream->phase == phase)) {
     stream = stream->next;
   }
   if (!stream) {
     stream = new (std::nothrow) ConvertedStream;
     if (!stream) {
-      return 0;
+      return {};
     }
     stream->layout = layout;
-    stream->offset = offset;
+    stream->phase = phase;
     stream->next = record.streams;
     record.streams = stream;
   }
+  const std::size_t begin = offset / stride * recordBytes;
   if (!stream->stale) {
-    return stream->name;
+    return {stream->name, begin};
   }
-  const std::size_t available = record.size - offset;
+  const std::size_t available = record.size - phase;
   const std::size_t count = recordCount(layout, available);
   const std::size_t floats = count * static_cast<std::size_t>(layout.size);
   Block block;
@@ -319,10 +323,10 @@ unsigned convertedStream(const BufferObjects& buffers, BufferRecord& record,
       stream->name = 0;
     }
     stream->stale = false;
-    return 0;
+    return {};
   }
   auto* out = reinterpret_cast<float*>(block.data);
-  convertRecords(layout, record.data.data + offset, available, 0, count - 1, out);
+  convertRecords(layout, record.data.data + phase, available, 0, count - 1, out);
   if (!stream->name) {
     driver.glGenBuffers(1, &stream->name);
   }
@@ -330,7 +334,7 @@ unsigned convertedStream(const BufferObjects& buffers, BufferRecord& record,
   driver.glBufferData(GL_ARRAY_BUFFER, static_cast<std::ptrdiff_t>(floats * sizeof(float)), out,
                       record.usage);
   stream->stale = false;
-  return stream->name;
+  return {stream->name, begin};
 }
 
 }  // namespace gles

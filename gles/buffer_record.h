@@ -9,16 +9,23 @@
 namespace gles {
 
 /// The floats that stand for one array layout of a buffer object, in a driver's buffer of their
-/// own: the buffer's other arrays are left alone.
+/// own: the buffer's other arrays are left alone. All arrays whose records lie in one raster share
+/// them, however many of them the buffer holds.
 struct ConvertedStream {
   ArrayLayout layout;
-  /// Byte offset of the array in the buffer object.
-  std::size_t offset = 0;
+  /// Byte offset of the first record in the buffer object, less than a record's stride.
+  std::size_t phase = 0;
   /// The driver's buffer that holds the floats; 0 before the first conversion.
   unsigned name = 0;
   /// The buffer's data have changed since the floats were made.
   bool stale = true;
   ConvertedStream* next = nullptr;
+};
+
+/// Where the floats of one array begin: a driver's buffer, 0 for none, and a byte offset in it.
+struct StreamPlace {
+  unsigned name = 0;
+  std::size_t offset = 0;
 };
 
 /// The shadow of one buffer object: its data as the client gave them.
@@ -102,11 +109,11 @@ const void* elementIndices(const BufferObjects& buffers, unsigned type, std::siz
 /// Loads the driver's buffer if it does not hold the record's data, leaving the binding as it was.
 void ensureLoaded(const BufferObjects& buffers, BufferRecord& record);
 
-/// The driver's buffer with the floats of one array of the record, converted when there are none or
-/// the data have changed since; 0 when memory is short or the array begins outside the data. The
-/// binding is left as it was.
-unsigned convertedStream(const BufferObjects& buffers, BufferRecord& record,
-                         const ArrayLayout& layout, std::size_t offset);
+/// The floats of one array of the record, converted when there are none or the data have changed
+/// since; none when memory is short or the array begins outside the data. The binding is left as it
+/// was.
+StreamPlace convertedStream(const BufferObjects& buffers, BufferRecord& record,
+                            const ArrayLayout& layout, std::size_t offset);
 
 }  // namespace gles
 

@@ -107,14 +107,14 @@ bool convertArray(unsigned name, ArrayState& array, const ElementRange& range) {
   const ArrayLayout layout{array.size, array.type, array.stride};
   if (array.bufferName) {
     BufferRecord* record = current->buffers.find(array.bufferName);
-    const unsigned stream = record
-                                ? convertedStream(current->buffers, *record, layout,
-                                                  reinterpret_cast<std::uintptr_t>(array.pointer))
-                                : 0;
-    if (stream) {
-      pointAtFloats(name, array, stream, nullptr);
+    const StreamPlace floats =
+        record ? convertedStream(current->buffers, *record, layout,
+                                 reinterpret_cast<std::uintptr_t>(array.pointer))
+               : StreamPlace{};
+    if (floats.name) {
+      pointAtFloats(name, array, floats.name, reinterpret_cast<const void*>(floats.offset));
     }
-    return stream != 0;
+    return floats.name != 0;
   }
   const std::size_t size = static_cast<std::size_t>(array.size);
   if (range.last >= SIZE_MAX / (size * sizeof(float)) ||

@@ -35,14 +35,15 @@ bool convertAttribute(unsigned index, AttributeState& attribute, const ElementRa
   const ArrayLayout layout{attribute.size, attribute.type, attribute.stride};
   if (attribute.bufferName) {
     BufferRecord* record = current->buffers.find(attribute.bufferName);
-    const unsigned stream =
+    const StreamPlace floats =
         record ? convertedStream(current->buffers, *record, layout,
                                  reinterpret_cast<std::uintptr_t>(attribute.pointer))
-               : 0;
-    if (stream) {
-      pointAtFloats(index, attribute.size, stream, nullptr);
+               : StreamPlace{};
+    if (floats.name) {
+      pointAtFloats(index, attribute.size, floats.name,
+                    reinterpret_cast<const void*>(floats.offset));
     }
-    return stream != 0;
+    return floats.name != 0;
   }
   const auto size = static_cast<std::size_t>(attribute.size);
   if (range.last >= SIZE_MAX / (size * sizeof(float)) ||

@@ -147,7 +147,28 @@ TEST(Buffers, HaveAStreamForEachLayout) {
   glDrawArrays(GL_POINTS, 0, 1);
   ASSERT_EQ(loads.all.size(), 3u);
   EXPECT_THAT(loads.floats(1), ElementsAre(1, 2, 3, 4, 5, 6));
-  EXPECT_THAT(loads.floats(2), ElementsAre(4, 5, 6));
+  EXPECT_THAT(loads.floats(2), ElementsAre(1, 2, 3, 4, 5, 6));
+  EXPECT_THAT(recording.calls("glTexCoordPointer"),
+              ElementsAre("glTexCoordPointer(3, GL_FLOAT, 0, <ptr>)",
+                          "glTexCoordPointer(3, GL_FLOAT, 0, <ptr>)"));
+}
+
+TEST(Buffers, ArraysInOneRasterShareAStream) {
+  RecordingDriver recording;
+  const Loads loads(recording);
+  filledBuffer(GL_ARRAY_BUFFER, {9, 1, 2, 3, 4, 5, 6});
+  glEnableClientState(GL_VERTEX_ARRAY);
+  std::vector<std::size_t> begins;
+  recording.onCall("glVertexPointer", [&begins](const RecordingDriver::Call& call) {
+    begins.push_back(reinterpret_cast<std::size_t>(call.addresses.back()));
+  });
+  for (const std::size_t at : {5, 1, 3}) {
+    glVertexPointer(2, GL_BYTE, 0, offset(at));
+    glDrawArrays(GL_POINTS, 0, 1);
+  }
+  ASSERT_EQ(loads.all.size(), 2u);
+  EXPECT_THAT(loads.floats(1), ElementsAre(1, 2, 3, 4, 5, 6));
+  EXPECT_THAT(begins, ElementsAre(16u, 0u, 8u));
 }
 
 TEST(Buffers, AConversionNeverReadsPastTheCopy) {
