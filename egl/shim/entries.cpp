@@ -24,10 +24,11 @@ EGLDisplay EGLAPIENTRY eglGetDisplay(EGLNativeDisplayType display_id) {
 EGLBoolean EGLAPIENTRY eglInitialize(EGLDisplay dpy, EGLint* major, EGLint* minor) {
   ShimTurn turn;
   EGLShimLocals* locals = ensureShimLocals();
-  if (!locals || !forwarded(eglBackend().initialize(dpy, nullptr, nullptr))) {
+  if (!locals) {
     return EGL_FALSE;
   }
-  if (!locals->configList && !buildConfigList(*locals, dpy)) {
+  const EGLBoolean initialised = forwarded(eglBackend().initialize(dpy, nullptr, nullptr));
+  if (initialised && !locals->configList && !buildConfigList(*locals, dpy)) {
     freeConfigList(*locals);
     return shimFail(EGL_BAD_ALLOC);
   }
@@ -37,7 +38,7 @@ EGLBoolean EGLAPIENTRY eglInitialize(EGLDisplay dpy, EGLint* major, EGLint* mino
   if (minor) {
     *minor = 3;
   }
-  return EGL_TRUE;
+  return initialised;
 }
 
 EGLBoolean EGLAPIENTRY eglTerminate(EGLDisplay dpy) {

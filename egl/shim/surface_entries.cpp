@@ -65,8 +65,13 @@ EGLSurface createSurface(EGLDisplay display, EGLConfig handle, const EGLint* att
     return EGL_NO_SURFACE;
   }
   std::vector<EGLint> kept;
-  if (!filterAttributes(attributes, kept)) {
-    shimFail(EGL_BAD_PARAMETER);
+  try {
+    if (!filterAttributes(attributes, kept)) {
+      shimFail(EGL_BAD_PARAMETER);
+      return EGL_NO_SURFACE;
+    }
+  } catch (const std::bad_alloc&) {
+    shimFail(EGL_BAD_ALLOC);
     return EGL_NO_SURFACE;
   }
   auto* surface = new (std::nothrow) ShimSurface();

@@ -67,6 +67,12 @@ TEST_F(Shim, InitializeAnswersItsOwnVersionWhateverTheBackEndSays) {
   EXPECT_TRUE(eglInitialize(display, &major, &minor));
   EXPECT_EQ(major, 1);
   EXPECT_EQ(minor, 3);
+  backend.nextError = EGL_NOT_INITIALIZED;
+  major = minor = 0;
+  EXPECT_FALSE(eglInitialize(display, &major, &minor));
+  backend.nextError = EGL_SUCCESS;
+  EXPECT_EQ(major, 1);
+  EXPECT_EQ(minor, 3);
 }
 
 TEST_F(Shim, ASecondInitializeKeepsTheList) {
