@@ -239,6 +239,31 @@ void spoilState() {
   glEnableClientState(GL_NORMAL_ARRAY);
 }
 
+TEST_F(Drawing, ABlockOfPixelsOf24BitsInAndOut) {
+  constexpr GLenum bgr = 0x80E0;
+  constexpr int width = 5;
+  constexpr int height = 3;
+  constexpr std::size_t stride = 16;  // One byte a row is padding.
+  GlFunctionTable table{};
+  fillEs1FunctionTable(&table, false);
+  std::vector<GLubyte> pixels;
+  for (std::size_t i = 0; i < stride * height; ++i) {
+    pixels.push_back(static_cast<GLubyte>(i % stride == stride - 1 ? 0 : 5 * i));
+  }
+  glViewport(0, 0, width, height);
+  table.drawPixelRectangle(width, height, bgr, GL_UNSIGNED_BYTE, 4, pixels.data());
+  glViewport(0, 0, side, side);
+  const Pixel first = surface.pixel(0, height - 1);
+  EXPECT_EQ(first, (Pixel{pixels[2], pixels[1], pixels[0], 255}));
+  std::vector<GLubyte> back(pixels.size());
+  table.glPixelStorei(GL_PACK_ALIGNMENT, 4);
+  for (int y = 0; y < height; ++y) {
+    table.glReadPixels(0, height - 1 - y, width, 1, bgr, GL_UNSIGNED_BYTE,
+                       back.data() + stride * static_cast<std::size_t>(y));
+  }
+  EXPECT_EQ(back, pixels);
+}
+
 TEST_F(Drawing, ABlockOfPixelsWhateverTheStateAndLeavesItSo) {
   GlFunctionTable table{};
   fillEs1FunctionTable(&table, false);
