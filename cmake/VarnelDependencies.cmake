@@ -19,7 +19,7 @@ find_path(JNI_HEADER_DIR jni.h
 if(WIN32)
   # Boost's and the published EGL and OpenGL ES headers stand beside those of libpng and libjpeg.
   set(VARNEL_SYSTEM_INCLUDES
-    "${JNI_HEADER_DIR}" "${CMAKE_SOURCE_DIR}/binding/windows"
+    "${JNI_HEADER_DIR}" "${PROJECT_SOURCE_DIR}/binding/windows"
     ${PNG_INCLUDE_DIRS} ${JPEG_INCLUDE_DIRS})
   set(VARNEL_SYSTEM_LIBRARIES PNG::PNG JPEG::JPEG ZLIB::ZLIB opengl32 gdi32 user32)
   set(VARNEL_OTHER_PORT glx)

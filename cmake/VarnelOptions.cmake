@@ -18,11 +18,11 @@ set(CMAKE_CXX_FLAGS_DEBUG "-O0 -g")
 find_program(VARNEL_CCACHE ccache)
 if(VARNEL_CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER
-    ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${VARNEL_CCACHE})
+    ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${VARNEL_CCACHE})
 endif()
 
 add_library(varnel_options INTERFACE)
-target_include_directories(varnel_options INTERFACE "${CMAKE_SOURCE_DIR}")
+target_include_directories(varnel_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_definitions(varnel_options INTERFACE _GLIBCXX_ASSERTIONS EGL_NO_X11)
 if(WIN32)
   # The published headers name no windows.h types and import nothing; the oldest Windows is 7.
