@@ -8,13 +8,17 @@
 
 namespace varnel_m3g {
 
-/// A list of distinct objects in order of adding. Adding and removing take constant time: a removed
-/// object leaves a gap, and the gaps are closed when the list is read.
+/// A list of distinct objects in order of adding. Adding and removing take constant time on the
+/// whole: a removed object leaves a gap, and the gaps are closed when the list is read and before
+/// they outnumber the objects.
 template <class T>
 class NodeRegistry {
  public:
   /// Appends the object if it is not there.
   void add(const boost::shared_ptr<T>& object) {
+    if (slots.size() > 2 * positions.size() + LEAST_GAPS) {
+      closeGaps();
+    }
     if (positions.emplace(object.get(), slots.size()).second) {
       slots.push_back(object);
     }
@@ -32,19 +36,26 @@ class NodeRegistry {
   /// The objects, none of them empty.
   const std::vector<boost::shared_ptr<T>>& entries() {
     if (slots.size() != positions.size()) {
-      std::size_t kept = 0;
-      for (std::size_t i = 0; i < slots.size(); ++i) {
-        if (slots[i]) {
-          positions[slots[i].get()] = kept;
-          slots[kept++].swap(slots[i]);
-        }
-      }
-      slots.resize(kept);
+      closeGaps();
     }
     return slots;
   }
 
  private:
+  // So many gaps are not worth the walk.
+  static constexpr std::size_t LEAST_GAPS = 16;
+
+  void closeGaps() {
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+      if (slots[i]) {
+        positions[slots[i].get()] = kept;
+        slots[kept++].swap(slots[i]);
+      }
+    }
+    slots.resize(kept);
+  }
+
   std::vector<boost::shared_ptr<T>> slots;
   std::unordered_map<const T*, std::size_t> positions;
 };
