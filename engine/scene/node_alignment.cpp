@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdio>
+#include <mutex>
 #include <stdexcept>
 
 #include "engine/math/rotation.h"
@@ -29,14 +30,20 @@ void targetVector(int target, const char* failure, float* out) {
   std::copy(vector, vector + 4, out);
 }
 
+// More degrees than rounding makes of the angle of parallel vectors.
+constexpr float ROUNDING = 1.0f;
+
 // The rotation from one unit vector to another. Where they are parallel there is no axis, and what
 // rounding has made of the angle goes: it is 0 or 180.
 float rotationTo(const float* from, const float* to, float* axis) {
   const float angle = alignmentRotation(from, to, axis);
-  if (std::isfinite(axis[0]) || !std::isfinite(angle)) {
+  if (std::isfinite(axis[0])) {
     return angle;
   }
-  return angle < 90.0f ? 0.0f : 180.0f;
+  if (angle < ROUNDING) {
+    return 0.0f;
+  }
+  return angle > 180.0f - ROUNDING ? 180.0f : angle;
 }
 
 float finiteOrZero(float value) {
@@ -98,6 +105,7 @@ void Node::align(boost::shared_ptr<Node> reference) {
     Node& node = *pending.back();
     pending.pop_back();
     if (node.alignSelf(reference)) {
+      std::lock_guard<Mutex> lock(node.mutex);
       for (std::size_t i = node.children.size(); i > 0; --i) {
         pending.push_back(node.children[i - 1].get());
       }

@@ -233,6 +233,23 @@ TEST(NodeAlign, ATargetStraightBehindTurnsAboutY) {
   EXPECT_THAT(turned(*pair.node, 1, 0, 0), near(-1, 0, 0));
 }
 
+TEST(NodeAlign, ATargetAlmostStraightBehindKeepsTheRestOfTheAxis) {
+  Pair pair;
+  // Half a circle to the last bit, and yet with an axis.
+  pair.reference->setTranslation(0, 0.0004f, -4);
+  pair.node->setAlignment(pair.reference, Node::ORIGIN, {}, Node::NONE);
+  pair.align();
+  EXPECT_THAT(orientationOf(*pair.node), near(180, -1, 1, 0));
+}
+
+TEST(NodeAlign, ATargetOutOfTheRangeOfFloatsIsNotTakenForOneBehind) {
+  Pair pair;
+  pair.reference->setTranslation(3e38f, 3e38f, 0);
+  pair.node->setAlignment(pair.reference, Node::ORIGIN, {}, Node::NONE);
+  pair.align();
+  EXPECT_FLOAT_EQ(orientationOf(*pair.node)[0], 90);
+}
+
 TEST(NodeAlign, ATargetStraightAheadKeepsTheOldOrientation) {
   Pair pair;
   pair.reference->setTranslation(5, 0, 0);
