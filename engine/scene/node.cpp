@@ -387,13 +387,17 @@ bool Node::updateWorldTransforms(bool force, const Transform& parentWorld) {
     return false;
   }
   std::vector<UpdateStep> pending;
-  pushChildren(pending, *this, changed);
+  {
+    std::lock_guard<Mutex> lock(mutex);
+    pushChildren(pending, *this, changed);
+  }
   while (!pending.empty()) {
     const UpdateStep step = pending.back();
     pending.pop_back();
     const bool visitBelow = step.node->childUpdatePending;
     const bool stepChanged = step.node->updateOwnWorldTransform(step.force, *step.parentWorld);
     if (stepChanged || visitBelow) {
+      std::lock_guard<Mutex> lock(step.node->mutex);
       pushChildren(pending, *step.node, stepChanged);
     }
   }

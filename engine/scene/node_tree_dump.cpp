@@ -1,4 +1,5 @@
 #include <cstddef>
+#include <mutex>
 #include <string>
 
 #include "engine/object/log.h"
@@ -64,10 +65,11 @@ void Node::dumpTree(int level) {
   while (!pending.empty()) {
     const Step step = pending.back();
     pending.pop_back();
-    const Node& node = *step.node;
+    Node& node = *step.node;
     const std::size_t indent = step.level > 1 ? (static_cast<std::size_t>(step.level) - 1) * 4 : 0;
     log(std::string(indent, ' ') + "+---" + className(node) + " (" + text(node.debugFlag) + ", " +
         text(node.isUpdatePending()) + ", " + text(node.childUpdatePending) + ")");
+    std::lock_guard<Mutex> lock(node.mutex);
     for (std::size_t i = node.children.size(); i > 0; --i) {
       pending.push_back({node.children[i - 1].get(), step.level + 1});
     }

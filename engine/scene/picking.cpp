@@ -1,5 +1,6 @@
 #include <boost/pointer_cast.hpp>
 #include <cstddef>
+#include <mutex>
 #include <stdexcept>
 
 #include "engine/scene/camera.h"
@@ -88,6 +89,7 @@ void Node::collectCandidates(Node& top) {
     if (Mesh* mesh = dynamic_cast<Mesh*>(&node)) {
       pickCandidates.push_back(mesh);
     } else if (dynamic_cast<Group*>(&node) != nullptr) {
+      std::lock_guard<Mutex> lock(node.mutex);
       for (std::size_t i = node.children.size(); i > 0; --i) {
         pending.push_back(node.children[i - 1].get());
       }
