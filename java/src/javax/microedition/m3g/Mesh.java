@@ -51,11 +51,13 @@ public class Mesh extends Node {
 
     /** @throws IndexOutOfBoundsException if there is no such submesh */
     public Appearance getAppearance(int index) {
+        requireSubmesh(index);
         return getAppearanceN(handle, index);
     }
 
     /** @throws IndexOutOfBoundsException if there is no such submesh */
     public IndexBuffer getIndexBuffer(int index) {
+        requireSubmesh(index);
         return getIndexBufferN(handle, index);
     }
 
@@ -73,7 +75,15 @@ public class Mesh extends Node {
      * @throws IndexOutOfBoundsException if there is no such submesh
      */
     public void setAppearance(int index, Appearance appearance) {
+        requireSubmesh(index);
         setAppearanceN(handle, index, handleOf(appearance));
+    }
+
+    /** The natives let the number of submeshes itself pass as an index. */
+    private void requireSubmesh(int index) {
+        if (index == getSubmeshCountN(handle)) {
+            throw new IndexOutOfBoundsException("There is no submesh " + index);
+        }
     }
 
     static native long createMeshN(long vertices, long submesh, long appearance);

@@ -53,6 +53,16 @@ public class MeshTest {
     }
 
     @Test
+    public void theClassRefusesAnIndexEqualToTheCount() {
+        Appearance appearance = new Appearance();
+        Mesh mesh = quad(appearance);
+        assertOutOfBounds("There is no submesh 1", () -> mesh.getAppearance(1));
+        assertOutOfBounds("There is no submesh 1", () -> mesh.getIndexBuffer(1));
+        assertOutOfBounds("There is no submesh 1", () -> mesh.setAppearance(1, null));
+        assertSame(appearance, mesh.getAppearance(0));
+    }
+
+    @Test
     public void partsComeBackAsTheSameObjects() {
         VertexBuffer vertices = quadVertices();
         IndexBuffer[] strips = {quadStrip(), quadStrip()};
