@@ -125,9 +125,11 @@ std::array<float, 3> M3gObjectInputStream::readVector3() {
   return vector;
 }
 
-std::array<float, 16> M3gObjectInputStream::readMatrix() {
-  std::array<float, 16> matrix;
-  readMatrixInto(matrix.data());
+Matrix M3gObjectInputStream::readMatrix() {
+  float values[16];
+  readMatrixInto(values);
+  Matrix matrix;
+  matrix.setMatrix(values);
   return matrix;
 }
 

@@ -11,6 +11,8 @@
 #include <memory>
 #include <string>
 
+#include "engine/math/matrix.h"
+
 namespace varnel_m3g {
 
 /// The typed reader of one .m3g file, alive for one load: it checks the file's header, sums what it
@@ -52,7 +54,7 @@ class M3gObjectInputStream : public std::ifstream {
   /// x, y, z.
   std::array<float, 3> readVector3();
   /// 16 floats in the file's row-major order.
-  std::array<float, 16> readMatrix();
+  Matrix readMatrix();
   /// The same into `destination`, which has room for 16 floats.
   void readMatrixInto(float* destination);
   /// The bytes before the next zero byte, or before the end of the data.

@@ -101,9 +101,9 @@ TEST_F(StreamTest, ReadsVectorsAndMatricesInFileOrder) {
   }
   open(record.data());
   EXPECT_THAT(stream.readVector3(), ElementsAre(1, 2, 3));
-  EXPECT_THAT(stream.readMatrix(),
-              ElementsAre(4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19));
   float matrix[16] = {};
+  stream.readMatrix().getMatrix(matrix);
+  EXPECT_THAT(matrix, ElementsAre(4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19));
   stream.readMatrixInto(matrix);
   EXPECT_EQ(matrix[0], 20.0f);
   EXPECT_EQ(matrix[15], 35.0f);
