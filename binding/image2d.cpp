@@ -135,13 +135,13 @@ JNIEXPORT void JNICALL Java_javax_microedition_m3g_Image2D_setN(JNIEnv* env, job
                                                                 jint height, jbyteArray image) {
   try {
     const boost::shared_ptr<Image2D> target = handleCast<Image2D>(handle);
-    const ReadArray<jbyte> bytes(env, image);
     // Divided and not multiplied: the bytes of the largest images exceed a long.
     const jlong pixels = static_cast<jlong>(width) * height;
-    if (image != nullptr && bytes.size() / target->getBytesPerPixel() < pixels) {
+    if (image != nullptr && env->GetArrayLength(image) / target->getBytesPerPixel() < pixels) {
       throwJava(env, "java/lang/IllegalArgumentException", "Insufficient data to set image");
       return;
     }
+    const ReadArray<jbyte> bytes(env, image);
     target->set(x, y, width, height, reinterpret_cast<const unsigned char*>(bytes.data()));
   } catch (const std::invalid_argument& e) {
     throwJava(env, "java/lang/IllegalArgumentException", e.what());

@@ -21,12 +21,12 @@ JNIEXPORT void JNICALL Java_javax_microedition_m3g_IndexBuffer_getIndicesN(JNIEn
                                                                            jlong handle,
                                                                            jintArray indices) {
   const boost::shared_ptr<IndexBuffer> buffer = handleCast<IndexBuffer>(handle);
-  const WriteArray<jint> elements(env, indices);
-  if (indices == nullptr || elements.size() < buffer->getIndexCount()) {
+  if (indices == nullptr || env->GetArrayLength(indices) < buffer->getIndexCount()) {
     throwJava(env, "java/lang/IllegalArgumentException",
               "Array passed to getIndices is too short.");
     return;
   }
+  const WriteArray<jint> elements(env, indices);
   buffer->getIndices(elements.data());
 }
 

@@ -57,11 +57,11 @@ JNIEXPORT void JNICALL Java_javax_microedition_m3g_VertexArray_getN__JII_3B(
     JNIEnv* env, jobject, jlong handle, jint firstVertex, jint numVertices, jbyteArray values) {
   try {
     const boost::shared_ptr<VertexArray> array = handleCast<VertexArray>(handle);
-    const WriteArray<jbyte> elements(env, values);
-    if (values != nullptr && isTooShort(elements.size(), *array, numVertices)) {
+    if (values != nullptr && isTooShort(env->GetArrayLength(values), *array, numVertices)) {
       throwJava(env, "java/lang/IllegalArgumentException", "Values array is too short");
       return;
     }
+    const WriteArray<jbyte> elements(env, values);
     array->get(firstVertex, numVertices, elements.data());
   } catch (const std::invalid_argument& e) {
     throwJava(env, "java/lang/IllegalArgumentException", e.what());
@@ -76,11 +76,11 @@ JNIEXPORT void JNICALL Java_javax_microedition_m3g_VertexArray_getN__JII_3S(
     JNIEnv* env, jobject, jlong handle, jint firstVertex, jint numVertices, jshortArray values) {
   try {
     const boost::shared_ptr<VertexArray> array = handleCast<VertexArray>(handle);
-    const WriteArray<jshort> elements(env, values);
-    if (values != nullptr && isTooShort(elements.size(), *array, numVertices)) {
+    if (values != nullptr && isTooShort(env->GetArrayLength(values), *array, numVertices)) {
       throwJava(env, "java/lang/IllegalArgumentException", "Values array is too short");
       return;
     }
+    const WriteArray<jshort> elements(env, values);
     array->get(firstVertex, numVertices, elements.data());
   } catch (const std::invalid_argument& e) {
     throwJava(env, "java/lang/IllegalArgumentException", e.what());
@@ -100,11 +100,11 @@ JNIEXPORT void JNICALL Java_javax_microedition_m3g_VertexArray_setN__JII_3B(
     JNIEnv* env, jobject, jlong handle, jint firstVertex, jint numVertices, jbyteArray values) {
   try {
     const boost::shared_ptr<VertexArray> array = handleCast<VertexArray>(handle);
-    const ReadArray<jbyte> elements(env, values);
-    if (values != nullptr && isTooShort(elements.size(), *array, numVertices)) {
+    if (values != nullptr && isTooShort(env->GetArrayLength(values), *array, numVertices)) {
       throwJava(env, "java/lang/IllegalArgumentException", "Insufficient data to VertexArray");
       return;
     }
+    const ReadArray<jbyte> elements(env, values);
     array->set(firstVertex, numVertices, elements.data());
   } catch (const std::invalid_argument& e) {
     throwJava(env, "java/lang/IllegalArgumentException", e.what());
@@ -119,11 +119,11 @@ JNIEXPORT void JNICALL Java_javax_microedition_m3g_VertexArray_setN__JII_3S(
     JNIEnv* env, jobject, jlong handle, jint firstVertex, jint numVertices, jshortArray values) {
   try {
     const boost::shared_ptr<VertexArray> array = handleCast<VertexArray>(handle);
-    const ReadArray<jshort> elements(env, values);
-    if (values != nullptr && isTooShort(elements.size(), *array, numVertices)) {
+    if (values != nullptr && isTooShort(env->GetArrayLength(values), *array, numVertices)) {
       throwJava(env, "java/lang/IllegalArgumentException", "Insufficient data to VertexArray");
       return;
     }
+    const ReadArray<jshort> elements(env, values);
     array->set(firstVertex, numVertices, elements.data());
   } catch (const std::invalid_argument& e) {
     throwJava(env, "java/lang/IllegalArgumentException", e.what());
