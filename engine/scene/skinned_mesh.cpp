@@ -226,7 +226,13 @@ int SkinnedMesh::getBoneVertices(const boost::shared_ptr<Node>& bone, int* indic
     if (run->bone != bone) {
       continue;
     }
-    if ((indices != nullptr || weights != nullptr) && n - count < run->numVertices) {
+    if (indices == nullptr && weights == nullptr) {
+      // Enough runs exceed an int.
+      count = static_cast<int>(static_cast<std::uint32_t>(count) +
+                               static_cast<std::uint32_t>(run->numVertices));
+      continue;
+    }
+    if (n - count < run->numVertices) {
       throw std::invalid_argument("Too small a value for nVertices in getBoneVertices");
     }
     for (int v = run->firstVertex; v < run->firstVertex + run->numVertices; ++v) {

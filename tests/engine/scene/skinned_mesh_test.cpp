@@ -167,6 +167,15 @@ TEST_F(Skinned, TellsTheVerticesOfABone) {
                                        text);
 }
 
+TEST_F(Skinned, CountsRunsBeyondAnIntegerByTheLow32Bits) {
+  const auto stranger = Group::create();
+  for (int run = 0; run < 40000; ++run) {
+    EXPECT_THROW(mesh->addTransform(stranger, 1, 0, 65535), std::invalid_argument);
+  }
+  EXPECT_EQ(mesh->getBoneVertices(stranger, nullptr, nullptr, 0),
+            static_cast<int>(40000U * 65535U));
+}
+
 TEST_F(Skinned, ARunPastTheVerticesIsCountedAndTouchesNone) {
   mesh->addTransform(arm, 2, 2, 1000);
   EXPECT_EQ(mesh->getBoneVertices(arm, nullptr, nullptr, 0), 1000);
