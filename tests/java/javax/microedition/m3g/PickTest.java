@@ -62,6 +62,16 @@ public class PickTest {
     }
 
     @Test
+    public void aResultIsDestroyedByItself() {
+        assertTrue(pick(hit));
+        long other = RayIntersection.createRayIntersectionN();
+        assertEquals(0f, hit.getDistanceN(other), 0f);
+        RayIntersection.destroyRayIntersectionN(other);
+        assertEquals(5f, hit.getDistance(), 1e-5f);
+        RayIntersection.destroyRayIntersectionN(0);
+    }
+
+    @Test
     public void anUnpickableGroupHidesItsChildren() {
         group.setPickingEnable(false);
         assertFalse(pick(hit));

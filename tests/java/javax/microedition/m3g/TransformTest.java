@@ -46,6 +46,19 @@ public class TransformTest {
     }
 
     @Test
+    public void destroyingACopyLeavesItsSource() {
+        Transform source = new Transform();
+        source.postTranslate(1, 2, 3);
+        long copy = Transform.createTransformN(source.handle);
+        float[] elements = new float[16];
+        source.getN(copy, elements);
+        assertArrayEquals(Shapes.translation(1, 2, 3), elements, 0);
+        Transform.destroyTransformN(copy);
+        assertArrayEquals(Shapes.translation(1, 2, 3), Shapes.elements(source), 0);
+        Transform.destroyTransformN(0);
+    }
+
+    @Test
     public void arraysAreRowByRow() {
         float[] rows = new float[16];
         for (int i = 0; i < 16; i++) {
