@@ -19,6 +19,7 @@ import org.junit.rules.TemporaryFolder;
 public class SkinnedMeshTest {
     private static final int GROUP_TYPE = 9;
     private static final int STRIPS_TYPE = 11;
+    private static final int MESH_TYPE = 14;
     private static final int SKINNED_MESH_TYPE = 16;
     private static final int VERTEX_ARRAY_TYPE = 20;
     private static final int VERTEX_BUFFER_TYPE = 21;
@@ -43,10 +44,15 @@ public class SkinnedMeshTest {
         return object3D().bytes(0, 0).bytes(1, 1, 255).int32(-1).bytes(0);
     }
 
-    /** A file with a skinned mesh, object 7, of a skeleton, 6, with one bone, 5. */
+    private static M3gBytes.Fields plainMesh() {
+        return node().int32(3).int32(1).int32(4).int32(0);
+    }
+
+    /**
+     * A file with a plain mesh, object 7, and a skinned one, 8, of a skeleton, 6, with one bone, 5.
+     */
     private static String write(Path file, int skeleton, int... references) throws IOException {
-        M3gBytes.Fields mesh = node().int32(3).int32(1).int32(4).int32(0).int32(skeleton)
-                .int32(references.length / 4);
+        M3gBytes.Fields mesh = plainMesh().int32(skeleton).int32(references.length / 4);
         for (int value : references) {
             mesh.int32(value);
         }
@@ -58,6 +64,7 @@ public class SkinnedMeshTest {
                 .object(STRIPS_TYPE, object3D().bytes(0).int32(0).int32(1).int32(3))
                 .object(GROUP_TYPE, node().int32(0))
                 .object(GROUP_TYPE, node().int32(1).int32(5))
+                .object(MESH_TYPE, plainMesh())
                 .object(SKINNED_MESH_TYPE, mesh)
                 .write(file);
     }
@@ -188,11 +195,15 @@ public class SkinnedMeshTest {
     @Test
     public void aSkeletonThatIsAMeshFails() {
         assertFails(IOException.class, "SkinnedMesh: file load...  invalid Skeleton target",
-                () -> load(4));
+                () -> load(7));
+    }
+
+    @Test
+    public void aSkeletonThatIsNoObjectFails() {
         assertFails(IOException.class, "SkinnedMesh: file load... invalid Skeleton reference index",
                 () -> load(0));
         assertFails(IOException.class, "SkinnedMesh: file load... invalid Skeleton reference index",
-                () -> load(7));
+                () -> load(8));
     }
 
     @Test
@@ -202,7 +213,7 @@ public class SkinnedMeshTest {
                 () -> load(6, 0, 0, 1, 1));
         assertFails(IOException.class,
                 "SkinnedMesh: file load... invalid Transform node reference index",
-                () -> load(6, 7, 0, 1, 1));
+                () -> load(6, 8, 0, 1, 1));
         assertFails(IOException.class, "SkinnedMesh: file load ... invalid bone target",
                 () -> load(6, 3, 0, 1, 1));
     }
@@ -216,7 +227,7 @@ public class SkinnedMeshTest {
 
     @Test
     public void aLoadedMeshHasItsBonesAndWritesItsWeights() throws Exception {
-        SkinnedMesh loaded = (SkinnedMesh) load(6, 5, 0, 2, 1, 6, 1, 1, 3)[6];
+        SkinnedMesh loaded = (SkinnedMesh) load(6, 5, 0, 2, 1, 6, 1, 1, 3)[7];
         float[] weights = new float[2];
         Group bone = (Group) loaded.getSkeleton().getChild(0);
         assertEquals(2, loaded.getBoneVertices(bone, null, weights));
