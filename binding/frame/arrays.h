@@ -64,7 +64,12 @@ class ArrayView {
       : env(env),
         array(array),
         length(array == nullptr ? 0 : env->GetArrayLength(array)),
-        elements(array == nullptr ? nullptr : (env->*ArrayAccess<T>::get)(array, nullptr)) {}
+        elements(array == nullptr ? nullptr : (env->*ArrayAccess<T>::get)(array, nullptr)) {
+    // A machine out of memory gives no elements: then there is nothing to read or fill.
+    if (elements == nullptr) {
+      length = 0;
+    }
+  }
 
   ~ArrayView() {
     if (elements != nullptr) {
