@@ -115,7 +115,7 @@ void VertexArray::allocate(int numVertices, int numComponents, int newComponentS
   byteCount = size;
   rgbaCopy_.reset();
   widened = false;
-  dirty = true;
+  noteWrite();
 }
 
 void VertexArray::dump() {
@@ -147,7 +147,7 @@ void VertexArray::set(int firstVertex, int numVertices, const short* values) {
   const std::size_t width = static_cast<std::size_t>(componentCount);
   std::memcpy(shorts() + static_cast<std::size_t>(firstVertex) * width, values,
               static_cast<std::size_t>(numVertices) * width * sizeof(short));
-  dirty = true;
+  noteWrite();
 }
 
 void VertexArray::set(int firstVertex, int numVertices, const signed char* values) {
@@ -169,7 +169,7 @@ void VertexArray::set(int firstVertex, int numVertices, const signed char* value
     std::memcpy(bytes.get() + first, values, count);
   }
   widened = false;
-  dirty = true;
+  noteWrite();
 }
 
 void VertexArray::get(int firstVertex, int numVertices, short* values) const {
@@ -274,7 +274,7 @@ void VertexArray::scaleAlphaFrom(const VertexArray& source, float factor) {
     bytes[alpha] =
         lowByte(truncate(static_cast<double>(source.bytes[alpha]) * static_cast<double>(factor)));
   }
-  dirty = true;
+  noteWrite();
 }
 
 bool VertexArray::morph(const VertexArray& base, int targetCount, VertexArray* const* targets,
@@ -324,7 +324,7 @@ bool VertexArray::morph(const VertexArray& base, int targetCount, VertexArray* c
     blend<std::int64_t>(start, values, targetCount, weights, total, result->bytes.get(),
                         clampedByte);
   }
-  result->dirty = true;
+  result->noteWrite();
   return true;
 }
 
@@ -391,7 +391,7 @@ void VertexArray::copyValuesFrom(const VertexArray& source) {
   }
   std::memcpy(bytes.get(), source.bytes.get(), byteCount);
   widened = source.widened;
-  dirty = true;
+  noteWrite();
 }
 
 }  // namespace varnel_m3g

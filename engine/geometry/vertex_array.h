@@ -84,11 +84,11 @@ class VertexArray : public Object3D {
   const short* shortData() const;
   /// The same for writing, which marks the array as changed.
   signed char* writableBytes() {
-    dirty = true;
+    noteWrite();
     return reinterpret_cast<signed char*>(bytes.get());
   }
   short* writableShorts() {
-    dirty = true;
+    noteWrite();
     return shorts();
   }
   /// Four bytes per vertex, or null where expandToRgba has not been called.
@@ -100,6 +100,8 @@ class VertexArray : public Object3D {
   bool isDirty() const { return dirty; }
   /// For the consumer that has taken note of the values.
   void clearDirty() { dirty = false; }
+  /// Changes with each write, so that every one of several consumers can tell.
+  unsigned getRevision() const { return revision; }
 
  private:
   /// Checks and allocates without a reset; what load uses once the base part has been read.
@@ -110,9 +112,14 @@ class VertexArray : public Object3D {
   void checkRange(int firstVertex, int numVertices) const;
   void copyValuesFrom(const VertexArray& source);
   short* shorts();
+  void noteWrite() {
+    dirty = true;
+    ++revision;
+  }
 
   bool widened = false;
   bool dirty = true;
+  unsigned revision = 0;
   int vertexCount = 0;
   int componentCount = 0;
   int componentSize = 0;

@@ -96,6 +96,10 @@ class VertexBuffer : public Object3D {
   /// The factor of getWorkingColors(); -1 where there is no valid copy.
   float getCachedAlphaFactor() const { return cachedAlphaFactor; }
   void setCachedAlphaFactor(float factor) { cachedAlphaFactor = factor; }
+  /// The revision of the colours that getWorkingColors() was scaled from. Another buffer may share
+  /// the colours and have taken note of a write before this one is drawn.
+  unsigned getWorkingRevision() const { return workingRevision; }
+  void setWorkingRevision(unsigned revision) { workingRevision = revision; }
 
   /// Set by each setter of an array.
   bool isDirty() const { return dirty; }
@@ -122,6 +126,7 @@ class VertexBuffer : public Object3D {
   boost::shared_ptr<VertexArray> normals;
   boost::shared_ptr<VertexArray> positions;
   float cachedAlphaFactor = -1.0f;
+  unsigned workingRevision = 0;
   bool dirty = true;
 };
 

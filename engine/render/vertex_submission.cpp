@@ -82,9 +82,11 @@ const VertexArray& fadedColors(VertexBuffer& buffer, float alphaFactor) {
     working = colors->copyInto(boost::shared_ptr<VertexArray>());
     buffer.setWorkingColors(working);
   }
-  if (made || colors->isDirty() || buffer.getCachedAlphaFactor() != alphaFactor) {
+  if (made || colors->isDirty() || buffer.getWorkingRevision() != colors->getRevision() ||
+      buffer.getCachedAlphaFactor() != alphaFactor) {
     working->scaleAlphaFrom(*colors, alphaFactor);
     colors->clearDirty();
+    buffer.setWorkingRevision(colors->getRevision());
     buffer.setCachedAlphaFactor(alphaFactor);
   }
   return *working;

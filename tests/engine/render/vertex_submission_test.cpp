@@ -164,6 +164,19 @@ TEST_F(VertexSubmissionTest, ChangedColoursAreComputedAgain) {
   EXPECT_EQ(buffer->getWorkingColors()->byteData()[0], 10) << "red is that of the first copy";
 }
 
+TEST_F(VertexSubmissionTest, ChangedColoursAreSeenByEveryBufferThatSharesThem) {
+  auto first = quadWithColors(4, halfAlpha);
+  auto second = boost::dynamic_pointer_cast<VertexBuffer>(first->duplicate());
+  setup(first, 0.5f);
+  setup(second, 0.5f);
+  const signed char changed[4] = {50, 60, 70, 100};
+  first->getColors()->set(0, 1, changed);
+  setup(first, 0.5f);
+  setup(second, 0.5f);
+  EXPECT_EQ(first->getWorkingColors()->byteData()[3], 50);
+  EXPECT_EQ(second->getWorkingColors()->byteData()[3], 50);
+}
+
 TEST_F(VertexSubmissionTest, ACopyOfAnotherLengthIsMadeAnew) {
   auto buffer = quadWithColors(4, halfAlpha);
   setup(buffer, 0.5f);
