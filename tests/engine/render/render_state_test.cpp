@@ -253,6 +253,45 @@ TEST_F(RenderStateTest, ADefaultCompositingModeIsSentWithEachAppearance) {
   EXPECT_EQ(apply(appearance), expected);
 }
 
+TEST_F(RenderStateTest, APlainCompositingModeIsSkippedWhileTheDefaultsAreInForce) {
+  auto appearance = plainAppearance();
+  auto mode = CompositingMode::create();
+  mode->setAlphaThreshold(1.0f);
+  appearance->setCompositingMode(mode);
+  EXPECT_EQ(apply(appearance).size(), 8u) << "it is not the current one yet";
+  EXPECT_EQ(apply(appearance).size(), 8u) << "its own state is not known to be the default";
+  graphics.clear(nullptr);
+  EXPECT_THAT(apply(appearance), IsEmpty());
+  EXPECT_TRUE(renderState().compositingIsDefault);
+  // What the condition leaves out is not sent either.
+  mode->setDepthTestEnable(false);
+  mode->setColorWriteEnable(false);
+  EXPECT_THAT(apply(appearance), IsEmpty());
+
+  const std::pair<const char*, void (*)(CompositingMode&)> changes[] = {
+      {"threshold", [](CompositingMode& m) { m.setAlphaThreshold(0.5f); }},
+      {"blending", [](CompositingMode& m) { m.setBlending(CompositingMode::ALPHA); }},
+      {"alpha write", [](CompositingMode& m) { m.setAlphaWriteEnable(false); }},
+      {"depth write", [](CompositingMode& m) { m.setDepthWriteEnable(false); }},
+      {"depth offset", [](CompositingMode& m) { m.setDepthOffset(1.0f, 0.0f); }},
+  };
+  for (const auto& [name, change] : changes) {
+    auto changed = plainAppearance();
+    changed->setCompositingMode(CompositingMode::create());
+    changed->getCompositingMode()->setAlphaThreshold(1.0f);
+    apply(changed);
+    graphics.clear(nullptr);
+    change(*changed->getCompositingMode());
+    EXPECT_FALSE(apply(changed).empty()) << name;
+  }
+  apply(appearance);
+  graphics.clear(nullptr);
+  auto other = plainAppearance();
+  other->setCompositingMode(CompositingMode::create());
+  other->getCompositingMode()->setAlphaThreshold(1.0f);
+  EXPECT_FALSE(apply(other).empty()) << "another object";
+}
+
 TEST_F(RenderStateTest, TheDepthTestCanBeSwitchedOff) {
   auto appearance = plainAppearance();
   appearance->setCompositingMode(CompositingMode::create());
