@@ -61,8 +61,8 @@ namespace {
 
 /// Makes the context of the window current; a failure leaves a Java exception pending.
 bool makeWindowCurrent(JNIEnv* env) {
-  const int error = WindowTarget::get().makeCurrent();
-  if (error == EGL_SUCCESS) {
+  EGLint error = EGL_SUCCESS;
+  if (WindowTarget::get().makeCurrent(&error)) {
     return true;
   }
   throwJava(env, "java/lang/IllegalArgumentException",

@@ -79,12 +79,13 @@ void WindowTarget::require(const char* text) {
   }
 }
 
-EGLint WindowTarget::makeCurrent() {
+bool WindowTarget::makeCurrent(EGLint* error) {
   if (eglGetCurrentContext() == context ||
       eglMakeCurrent(display, record.surface, record.surface, context)) {
-    return EGL_SUCCESS;
+    return true;
   }
-  return eglGetError();
+  *error = eglGetError();
+  return false;
 }
 
 void WindowTarget::present() {

@@ -32,8 +32,9 @@ class WindowTarget {
   ///     the step that failed
   void require(const char* text);
   /// Makes the window's context current unless it is.
-  /// @return EGL_SUCCESS, or the error of EGL
-  EGLint makeCurrent();
+  /// @param error the error of EGL after a failure
+  /// @return false after a failure, whatever the error says
+  bool makeCurrent(EGLint* error);
   /// What bindTarget takes.
   const WindowSurface& surfaceRecord() const { return record; }
 

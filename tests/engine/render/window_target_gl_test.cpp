@@ -27,13 +27,19 @@ TEST(WindowTargetGlTest, AnErrorOfTheBindIsAnswered) {
   WindowTarget window;
   window.require(nullptr);
   EXPECT_FALSE(window.isUnusable());
-  egl.error = EGL_BAD_MATCH;
   egl.fail("makeCurrent");
-  EXPECT_EQ(window.makeCurrent(), EGL_BAD_MATCH);
+  for (const EGLint answered : {EGL_BAD_MATCH, EGL_SUCCESS}) {
+    egl.error = answered;
+    EGLint error = EGL_BAD_ALLOC;
+    EXPECT_FALSE(window.makeCurrent(&error));
+    EXPECT_EQ(error, answered);
+  }
   egl.succeed("makeCurrent");
-  EXPECT_EQ(window.makeCurrent(), EGL_SUCCESS);
+  EGLint untouched = EGL_BAD_ALLOC;
+  EXPECT_TRUE(window.makeCurrent(&untouched));
+  EXPECT_EQ(untouched, EGL_BAD_ALLOC);
   egl.calls.clear();
-  EXPECT_EQ(window.makeCurrent(), EGL_SUCCESS);
+  EXPECT_TRUE(window.makeCurrent(&untouched));
   EXPECT_TRUE(egl.calls.empty()) << "it is current already";
 }
 
