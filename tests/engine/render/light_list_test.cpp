@@ -166,3 +166,24 @@ TEST_F(LightListTest, SyncReadsTheLengthAnewAfterAnErasure) {
   }
   EXPECT_NO_THROW(list.syncLights(lights));
 }
+
+TEST_F(LightListTest, SyncWithALightDisabledInTheMiddle) {
+  auto lights = lightsOf(3);
+  list.syncLights(lights);
+  lights[1]->setRenderingEnable(false);
+  for (int frame = 0; frame < 3; ++frame) {
+    EXPECT_NO_THROW(list.syncLights(lights));
+    EXPECT_THAT(entries(), ElementsAre(lights[0], lights[2], lights[2]));
+    EXPECT_EQ(lights[2]->getGLLight(), firstUnit + 2);
+  }
+}
+
+TEST_F(LightListTest, SyncWithTwoDisabledLightsErasesTheEntryThatHasMovedDown) {
+  auto lights = lightsOf(3);
+  list.syncLights(lights);
+  lights[0]->setRenderingEnable(false);
+  lights[1]->setRenderingEnable(false);
+  EXPECT_NO_THROW(list.syncLights(lights));
+  EXPECT_THAT(entries(), ElementsAre(lights[1], lights[2]));
+  EXPECT_EQ(lights[2]->getGLLight(), firstUnit + 1);
+}
