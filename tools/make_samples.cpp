@@ -420,6 +420,37 @@ Scene triangle() {
   return scene;
 }
 
+/// A skinned flag whose upper edge follows a bone that grows and shrinks, and a morphing one, which
+/// shows its base shape.
+Scene deformed() {
+  Scene scene;
+  const int positions = addByteArray(scene, {-4, -4, 0, 4, -4, 0, -4, 4, 0, 4, 4, 0}, 3);
+  const int target = addByteArray(scene, {-2, -8, 0, 2, -8, 0, -2, 8, 0, 2, 8, 0}, 3);
+  const int colors = addByteArray(scene, {255, 0, 0, 255, 255, 0, 0, 0, 255, 0, 255, 0}, 3);
+  const int vertices = addVertexBuffer(scene, positions, 0.125f, 0, colors, 0, 0);
+  const int targetVertices = addVertexBuffer(scene, target, 0.125f, 0, 0, 0, 0);
+  const int strip = scene.add(record(TRIANGLE_STRIP_ARRAY).byte(0).int32(0).intArray({4}));
+  const int appearance = addAppearance(scene, {});
+  const auto section = [&](int type, float x) {
+    M3gRecord mesh = placed(type, {x, 0, 0});
+    return mesh.int32(vertices).int32(1).int32(strip).int32(appearance);
+  };
+  const int growth = addTrack(scene, addController(scene), scaleProperty, linear, 2000,
+                              {{1, 1, 1}, {2, 2, 1}, {1, 1, 1}, {0.5f, 0.5f, 1}});
+  const int bone = addGroup(scene, placed(GROUP, {0, 0, 0}, 0, {0, 1, 0}, {growth}, 1), {});
+  const int skeleton = addGroup(scene, placed(GROUP, {0, 0, 0}), {bone});
+  M3gRecord skinned = section(SKINNED_MESH, -1);
+  const int skinnedMesh =
+      scene.add(skinned.int32(skeleton).int32(1).int32(bone).int32(2).int32(2).int32(1));
+  M3gRecord morphing = section(MORPHING_MESH, 1);
+  const int morphingMesh = scene.add(morphing.int32(1).int32(targetVertices).float32(0.5f));
+  M3gRecord parallel = placed(CAMERA, {0, 0, 2});
+  parallel.byte(49).float32(3).float32(640.0f / 480.0f).float32(1).float32(10);
+  const int camera = scene.add(parallel);
+  addWorld(scene, {skinnedMesh, morphingMesh, camera}, camera, 0);
+  return scene;
+}
+
 M3gFile file() {
   M3gFile file;
   file.authoringField = "varneljni samples";
@@ -460,6 +491,7 @@ void writeSamples(const std::string& folder) {
   write(folder, "external.m3g",
         externalFile.stored(cubeScene(externalImage, external).all()).bytes());
 
+  write(folder, "deformed.m3g", file().stored(deformed().all()).bytes());
   write(folder, "triangle.m3g", file().stored(triangle().all()).bytes());
 }
 
