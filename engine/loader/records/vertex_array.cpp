@@ -38,12 +38,15 @@ void VertexArray::load(M3gObjectInputStream& stream, ObjectTable& table) {
     const std::size_t count = static_cast<std::size_t>(newVertexCount) * components;
     if (newComponentSize == 1) {
       std::vector<signed char> values(count);
-      const std::int64_t obtained =
-          stream.read(values.data(), static_cast<std::int64_t>(values.size()));
-      if (encoding == 0 && obtained < static_cast<std::int64_t>(values.size())) {
+      const std::int64_t wanted = static_cast<std::int64_t>(values.size());
+      const std::int64_t obtained = stream.read(values.data(), wanted);
+      if (encoding == 0 && obtained < wanted) {
         throw std::runtime_error("m3g.VertexArray.load() length mismatch when reading vertices");
       }
       if (encoding == 1) {
+        // Differences go on in the file where an inflated section ends, as 16-bit values do: heads
+        // without values would else yield one large array after the other.
+        stream.read(values.data() + obtained, wanted - obtained);
         sumDifferences(values, components);
       }
       set(0, newVertexCount, values.data());

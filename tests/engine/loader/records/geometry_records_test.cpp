@@ -119,6 +119,30 @@ TEST(VertexArrayRecord, OfBytesDoesNotLeaveItsInflatedSection) {
             "std::runtime_error: m3g.VertexArray.load() length mismatch when reading vertices");
 }
 
+TEST(VertexArrayRecord, OfByteDifferencesGoesOnBehindItsInflatedSection) {
+  M3gSection section;
+  section.scheme = 1;
+  section.objects = arrayHead(1, 3, 1, 2).raw("abcd").object();
+  std::string bytes = section.bytes();
+  bytes.resize(bytes.size() - 4);
+  const Loaded loaded = loadBytes(M3gFile().bytes() + bytes + "\x02\x03");
+  ASSERT_EQ(loaded.failure, "");
+  EXPECT_THAT(bytesOf(loaded), ElementsAre('a', 'b', 'c', 'a' + 'd' - 256, 'b' + 2, 'c' + 3));
+}
+
+// An array each would take a thousand times the file's size and more.
+TEST(VertexArrayRecord, HeadsWithoutValuesShareOneArray) {
+  for (const int componentSize : {1, 2}) {
+    M3gFile file;
+    for (int i = 0; i < 100; ++i) {
+      file.compressed({arrayHead(componentSize, 4, 1, 65535).raw("x")});
+    }
+    const Loaded loaded = loadBytes(file.bytes());
+    EXPECT_EQ(loaded.failure, "") << componentSize;
+    EXPECT_EQ(loaded.objects.size(), 2u) << componentSize;
+  }
+}
+
 TEST(VertexArrayRecord, OfShortsIsFilledUpWithZeros) {
   std::string bytes = M3gFile().bytes();
   M3gSection section;
