@@ -209,6 +209,21 @@ TEST(Loader, ASectionThatClaimsMoreThanTheFileEndsWithTheFile) {
   }
 }
 
+TEST(Loader, AByteBehindTheObjectsOfASectionBeginsAnother) {
+  // It takes the checksum as its length, so that the checksum is what follows.
+  M3gSection section;
+  section.objects = anyFog().object() + '\0';
+  M3gSection next;
+  next.objects = anyImage().object();
+  const Loaded loaded =
+      loadBytes(M3gFile().bytes() + section.bytes() + std::string(4, '\0') + next.bytes());
+  EXPECT_EQ(loaded.failure, "");
+  ASSERT_EQ(loaded.objects.size(), 3u);
+  EXPECT_TRUE(loaded.at<Fog>(2));
+  EXPECT_TRUE(loaded.at<Image2D>(3));
+  EXPECT_NE(loaded.out.find(std::string(checksumLine) + "FileChecksum   = 0\n"), std::string::npos);
+}
+
 TEST(Loader, AnObjectOfTypeZeroIsOnlyItsHead) {
   // Its five bytes are passed over, its data is the next object.
   M3gRecord empty(0);
