@@ -204,9 +204,8 @@ void Graphics3D::setDepthRange(float near, float far) {
 
 void Graphics3D::setCamera(const boost::shared_ptr<Camera>& camera, const Transform* transform) {
   if (camera && transform) {
-    Transform inverse = *transform;
-    inverse.invert();
-    cameraTransform = inverse;
+    cameraTransform = *transform;
+    cameraTransform.invert();
     cameraDirty = true;
   } else {
     cameraTransform.setIdentity();

@@ -89,7 +89,8 @@ class Graphics3D {
 
   /// Sets the current camera and the transform from its coordinates to the world's, which is stored
   /// inverted. Without a camera or a transform the identity is stored.
-  /// @throws std::underflow_error for a singular transform; the former camera then stays
+  /// @throws std::underflow_error for a singular transform, which stays in place of the former one;
+  /// the camera itself stays
   void setCamera(const boost::shared_ptr<Camera>& camera, const Transform* transform);
   /// The current camera; a given transform receives what setCamera was given.
   const boost::shared_ptr<Camera>& getCamera(Transform* transform) const;
