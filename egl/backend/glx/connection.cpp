@@ -11,8 +11,11 @@ std::vector<std::unique_ptr<PortConnection>>& connections() {
   return *list;
 }
 
-void markDead(Display*, void* connection) {
+void markDead(Display* display, void* connection) {
   static_cast<PortConnection*>(connection)->dead = true;
+  // Xlib 1.8 leaves the display locked when this returns, and libGLX's clean-up at process end
+  // would wait for that lock without end. Nobody else makes requests on this display.
+  forgetDisplayLocks(display);
 }
 
 bool hasExtension(const char* list, const char* name) {

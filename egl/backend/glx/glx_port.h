@@ -85,6 +85,9 @@ class XErrorTrap {
 void guardXErrors(PortConnection& connection);
 void unguardXErrors();
 
+/// Has Xlib lock the display no more; for one whose connection is lost.
+void forgetDisplayLocks(Display* display);
+
 /// True if the window was made by the port and its user has closed it.
 bool isClosedNativeWindow(Window window);
 
