@@ -36,7 +36,7 @@ void copyOfPositions(benchmark::State& state) {
   std::vector<short> copy(std::size_t{3} * vertices);
   for (auto _ : state) {
     std::memcpy(copy.data(), source->shortData(), copy.size() * sizeof copy[0]);
-    benchmark::DoNotOptimize(copy.data());
+    benchmark::ClobberMemory();
   }
   state.SetItemsProcessed(state.iterations() * vertices);
 }
@@ -71,7 +71,7 @@ void evaluationOfKeyframes(benchmark::State& state) {
   int count = 0;
   for (auto _ : state) {
     value = sequence->getKeyframe(time, &count);
-    benchmark::DoNotOptimize(value);
+    benchmark::ClobberMemory();
   }
   if (count != 3 || value[0] != static_cast<float>(keyframes / 2) + 0.5f) {
     state.SkipWithError("the value is wrong");
