@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "egl/backend/egw.h"
-#include "egl/backend/pixel_format.h"
 #include "gles/driver/driver.h"
 
 namespace {
@@ -49,21 +48,6 @@ EgwDisplay* findEntered(EGLDisplay handle) {
   return nullptr;
 }
 
-/// Whether windows can have four samples a pixel, single- or else double-buffered.
-bool probeMultisample(PortConnection* connection) {
-  PixelFormatRequest request;
-  request.window = true;
-  request.sampleBuffers = 1;
-  request.samples = 4;
-  for (const bool doubleBuffer : {false, true}) {
-    request.doubleBuffer = doubleBuffer;
-    if (!choosePixelFormats(portPixelFormats(connection), request, 1).empty()) {
-      return true;
-    }
-  }
-  return false;
-}
-
 bool initialiseFirst(PortConnection* connection) {
   if (!portBeginProbe(connection)) {
     return false;
@@ -78,7 +62,8 @@ bool initialiseFirst(PortConnection* connection) {
     fillEs2FunctionTable(&egw.es2);
     setCopyBackHook(egwCopyBack);
     setEsImageLookup(egwFindImage);
-    egw.multisampleAvailable = probeMultisample(connection);
+    egw.multisampleAvailable =
+        portMultisamples(connection, false) || portMultisamples(connection, true);
   }
   portEndProbe(connection);
   return loaded;

@@ -2,15 +2,12 @@
 #include <new>
 
 #include "egl/backend/egw.h"
-#include "egl/backend/pixel_format.h"
 #include "egl/backend/pixel_layout.h"
 
 namespace {
 
-constexpr std::size_t formatLimit = 16;
-
-PixelFormatRequest requestFor(const EgwConfig& row) {
-  PixelFormatRequest request;
+PortFormatRequest requestFor(const EgwConfig& row) {
+  PortFormatRequest request;
   request.red = row.red;
   request.green = row.green;
   request.blue = row.blue;
@@ -20,42 +17,29 @@ PixelFormatRequest requestFor(const EgwConfig& row) {
   return request;
 }
 
-/// Gives the surface a drawable and a context of the format, or neither.
-bool openWindow(PortConnection* connection, EgwSurface& surface, const PortPixelFormat& format) {
-  surface.drawable = portCreateWindowDrawable(connection, surface.window, format);
-  if (!surface.drawable) {
-    return false;
-  }
+/// Gives the surface, which has a drawable, a context of the format; without one the drawable goes.
+bool openContext(PortConnection* connection, EgwSurface& surface, PortFormat format) {
   surface.renderContext = portCreateContext(connection, format, surface.drawable);
   if (!surface.renderContext) {
     portDestroyDrawable(connection, surface.drawable);
     surface.drawable = nullptr;
-    return false;
   }
-  return true;
+  return surface.renderContext != nullptr;
 }
 
-bool openPbuffer(PortConnection* connection, EgwSurface& surface, const PixelFormatRequest& request,
+bool openWindow(PortConnection* connection, EgwSurface& surface, PortFormat format) {
+  surface.drawable =
+      format ? portCreateWindowDrawable(connection, surface.window, format) : nullptr;
+  return surface.drawable && openContext(connection, surface, format);
+}
+
+bool openPbuffer(PortConnection* connection, EgwSurface& surface, const PortFormatRequest& request,
                  const PortPbufferRequest& pbuffer) {
-  const std::vector<PortPixelFormat>& formats = portPixelFormats(connection);
-  const std::vector<std::size_t> chosen = choosePixelFormats(formats, request, formatLimit);
-  if (chosen.empty()) {
-    return false;
-  }
-  const PortPixelFormat& format = formats[chosen[0]];
-  surface.drawable = portCreatePbuffer(connection, format, pbuffer);
-  if (!surface.drawable) {
-    return false;
-  }
-  surface.renderContext = portCreateContext(connection, format, surface.drawable);
-  if (!surface.renderContext) {
-    portDestroyDrawable(connection, surface.drawable);
-    surface.drawable = nullptr;
-    return false;
-  }
+  const PortFormat format = portChoosePbufferFormat(connection, request);
+  surface.drawable = format ? portCreatePbuffer(connection, format, pbuffer) : nullptr;
   surface.width = pbuffer.width;
   surface.height = pbuffer.height;
-  return true;
+  return surface.drawable && openContext(connection, surface, format);
 }
 
 EGLSurface enter(EgwDisplay& display, const EgwSurface& made) {
@@ -159,22 +143,18 @@ EGLSurface egwCreateWindowSurface(EGLDisplay handle, EGLConfig config, EGLNative
     }
     surface.renderBuffer = pair[1];
   }
-  PixelFormatRequest request = requestFor(*row);
-  request.window = true;
-  request.visual = portWindowVisual(connection, surface.window);
+  PortFormatRequest request = requestFor(*row);
   request.doubleBuffer = surface.renderBuffer == EGL_BACK_BUFFER;
   if (egw.multisampleAvailable && row->sampleBuffers > 0 && row->samples > 1) {
     request.sampleBuffers = row->sampleBuffers;
     request.samples = row->samples;
   }
-  const std::vector<PortPixelFormat>& formats = portPixelFormats(connection);
-  const std::vector<std::size_t> chosen = choosePixelFormats(formats, request, formatLimit);
-  if (chosen.empty() || !openWindow(connection, surface, formats[chosen[0]])) {
+  if (!openWindow(connection, surface,
+                  portChooseWindowFormat(connection, surface.window, request))) {
     request.doubleBuffer = true;
     surface.renderBuffer = EGL_BACK_BUFFER;
-    const int nearest = nearestPixelFormat(formats, request);
-    if (nearest < 0 ||
-        !openWindow(connection, surface, formats[static_cast<std::size_t>(nearest)])) {
+    if (!openWindow(connection, surface,
+                    portPlainWindowFormat(connection, surface.window, request))) {
       return refuse(EGL_BAD_ALLOC);
     }
   }
@@ -200,7 +180,7 @@ EGLSurface egwCreatePbufferSurface(EGLDisplay handle, EGLConfig config, const EG
     return refuse(error);
   }
   egw.largestPbuffer = largest;
-  PixelFormatRequest request = requestFor(*row);
+  PortFormatRequest request = requestFor(*row);
   if (surface.textureFormat != EGL_NO_TEXTURE && surface.textureTarget != EGL_NO_TEXTURE) {
     request.bindsRgb = row->bindRgb != 0;
     request.bindsRgba = !request.bindsRgb && row->bindRgba != 0;

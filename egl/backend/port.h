@@ -2,7 +2,6 @@
 #define VARNEL_EGL_BACKEND_PORT_H
 
 #include <cstdint>
-#include <vector>
 
 // What the back end needs from the window system. Each port defines these functions in its own
 // folder; native handles pass as integers, and a port never dereferences one that is not its own.
@@ -19,15 +18,12 @@ using PortNativeDisplay = std::uintptr_t;
 using PortNativeWindow = std::uintptr_t;
 using PortNativePixmap = std::uintptr_t;
 
-/// One native framebuffer configuration as plain numbers.
-struct PortPixelFormat {
-  std::uintptr_t id = 0;      ///< the port's own number of it
-  std::uintptr_t visual = 0;  ///< visual that its windows must have; 0: any window will do
-  int visualDepth = 0;        ///< bits of that visual's pixels
-  bool drawsToWindow = false;
-  bool drawsToPbuffer = false;
-  bool accelerated = false;
-  bool doubleBuffer = false;
+/// The port's own number of a native framebuffer configuration, 0 for none.
+using PortFormat = std::uintptr_t;
+
+/// What a surface wants of its format. Sizes are minima.
+struct PortFormatRequest {
+  bool doubleBuffer = false;  ///< must be equal
   int red = 0, green = 0, blue = 0, alpha = 0;
   int depth = 0, stencil = 0;
   int sampleBuffers = 0, samples = 0;
@@ -68,17 +64,27 @@ bool portBeginProbe(PortConnection* connection);
 void portEndProbe(PortConnection* connection);
 /// The display adapter's description; valid between begin and end of the probe.
 const char* portAdapterName(PortConnection* connection);
+/// True if there is an accelerated format for windows with four samples a pixel; valid between begin
+/// and end of the probe.
+bool portMultisamples(PortConnection* connection, bool doubleBuffer);
 /// A function of the desktop's OpenGL by name, core 1.1 names included; null if missing.
 void* portGetProcAddress(const char* name);
 
 // --- Pixel formats and contexts ----------------------------------------------------------------
 
-/// All configurations of the connection, in the window system's order.
-const std::vector<PortPixelFormat>& portPixelFormats(PortConnection* connection);
+/// The first accelerated format for the window that meets the request; 0 where there is none.
+PortFormat portChooseWindowFormat(PortConnection* connection, PortNativeWindow window,
+                                  const PortFormatRequest& request);
+/// The format that any driver has for the window and that comes nearest to the request, whether or
+/// not it meets it; 0 where there is none.
+PortFormat portPlainWindowFormat(PortConnection* connection, PortNativeWindow window,
+                                 const PortFormatRequest& request);
+/// The first accelerated format for pbuffers that meets the request; 0 where there is none.
+PortFormat portChoosePbufferFormat(PortConnection* connection, const PortFormatRequest& request);
 /// A context for the drawable, which is of the format, sharing objects with all others of the
 /// connection.
 /// Null on failure. Freed by portDestroyContext.
-PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format,
+PortContext* portCreateContext(PortConnection* connection, PortFormat format,
                                PortDrawable* drawable);
 void portDestroyContext(PortConnection* connection, PortContext* context);
 /// Makes the context current on the two drawables; all null releases what is current.
@@ -89,12 +95,10 @@ bool portMakeCurrent(PortConnection* connection, PortDrawable* draw, PortDrawabl
 
 /// Size of the window's client area; false if there is no such window or its user has closed it.
 bool portWindowSize(PortConnection* connection, PortNativeWindow window, int* width, int* height);
-/// The visual that formats for the window must have, 0 where any will do.
-std::uintptr_t portWindowVisual(PortConnection* connection, PortNativeWindow window);
 /// The drawing side of a window, with the format set on it. Null on failure. Freed by
 /// portDestroyDrawable, which leaves the window itself alone.
 PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWindow window,
-                                       const PortPixelFormat& format);
+                                       PortFormat format);
 /// Shows the back buffer; false if the window is gone.
 bool portSwapBuffers(PortConnection* connection, PortDrawable* drawable);
 /// Frames to wait between swaps of the drawable. False where the driver has no way to say so.
@@ -103,7 +107,7 @@ bool portSwapInterval(PortConnection* connection, PortDrawable* drawable, int in
 // --- Pbuffers ----------------------------------------------------------------------------------
 
 /// Null on failure. Freed by portDestroyDrawable.
-PortDrawable* portCreatePbuffer(PortConnection* connection, const PortPixelFormat& format,
+PortDrawable* portCreatePbuffer(PortConnection* connection, PortFormat format,
                                 const PortPbufferRequest& request);
 void portDestroyDrawable(PortConnection* connection, PortDrawable* drawable);
 /// True where the window system itself can make a texture of a pbuffer; if not, pixels are copied.

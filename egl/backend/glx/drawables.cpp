@@ -1,13 +1,13 @@
 #include "egl/backend/glx/glx_port.h"
 
-PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat& format,
+PortContext* portCreateContext(PortConnection* connection, PortFormat format,
                                PortDrawable*) {
-  if (connection->dead || format.id >= connection->configs.size()) {
+  GLXFBConfig config = configOf(*connection, format);
+  if (!config) {
     return nullptr;
   }
   XErrorTrap trap(*connection);
   Display* display = connection->display;
-  GLXFBConfig config = connection->configs[format.id];
   if (!connection->shareRoot) {
     connection->shareRoot = glXCreateNewContext(display, config, GLX_RGBA_TYPE, nullptr, True);
   }
@@ -69,27 +69,16 @@ bool portWindowSize(PortConnection* connection, PortNativeWindow window, int* wi
   return true;
 }
 
-std::uintptr_t portWindowVisual(PortConnection* connection, PortNativeWindow window) {
-  if (connection->dead) {
-    return 0;
-  }
-  XErrorTrap trap(*connection);
-  XWindowAttributes attributes;
-  if (!XGetWindowAttributes(connection->display, window, &attributes)) {
-    return 0;
-  }
-  return XVisualIDFromVisual(attributes.visual);
-}
-
 PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWindow window,
-                                       const PortPixelFormat& format) {
-  if (connection->dead || format.id >= connection->configs.size()) {
+                                       PortFormat format) {
+  GLXFBConfig config = configOf(*connection, format);
+  if (!config) {
     return nullptr;
   }
   XErrorTrap trap(*connection);
   // A GLXWindow and not the bare window: its back buffer stays while another one is current.
   const GLXWindow id =
-      glXCreateWindow(connection->display, connection->configs[format.id], window, nullptr);
+      glXCreateWindow(connection->display, config, window, nullptr);
   if (trap.failed() || !id) {
     return nullptr;
   }
@@ -121,9 +110,10 @@ bool portSwapInterval(PortConnection* connection, PortDrawable* drawable, int in
   return connection->swapIntervalSgi && interval > 0 && connection->swapIntervalSgi(interval) == 0;
 }
 
-PortDrawable* portCreatePbuffer(PortConnection* connection, const PortPixelFormat& format,
+PortDrawable* portCreatePbuffer(PortConnection* connection, PortFormat format,
                                 const PortPbufferRequest& request) {
-  if (connection->dead || format.id >= connection->configs.size()) {
+  GLXFBConfig config = configOf(*connection, format);
+  if (!config) {
     return nullptr;
   }
   XErrorTrap trap(*connection);
@@ -137,7 +127,7 @@ PortDrawable* portCreatePbuffer(PortConnection* connection, const PortPixelForma
                             True,
                             0};
   const GLXPbuffer id =
-      glXCreatePbuffer(connection->display, connection->configs[format.id], attributes);
+      glXCreatePbuffer(connection->display, config, attributes);
   if (trap.failed() || !id) {
     return nullptr;
   }

@@ -1,6 +1,7 @@
 #ifndef VARNEL_EGL_BACKEND_GLX_GLX_PORT_H
 #define VARNEL_EGL_BACKEND_GLX_GLX_PORT_H
 
+#include "egl/backend/glx/pixel_format.h"
 #include "egl/backend/port.h"
 // X11's headers come after those of the project and the standard library: their macros would
 // break them.
@@ -23,8 +24,9 @@ struct PortConnection {
   bool dead = false;  ///< the X server has gone or has closed the connection
   int glxOpcode = 0;  ///< major request code of GLX, 0 without it
 
+  // All configurations in the window system's order; a PortFormat is an index beyond by one.
   std::vector<GLXFBConfig> configs;
-  std::vector<PortPixelFormat> formats;
+  std::vector<PixelFormat> formats;
   GLXContext shareRoot = nullptr;  ///< never current; all contexts share its objects
 
   Window probeWindow = 0;
@@ -36,6 +38,11 @@ struct PortConnection {
   PFNGLXSWAPINTERVALMESAPROC swapIntervalMesa = nullptr;
   PFNGLXSWAPINTERVALSGIPROC swapIntervalSgi = nullptr;
 };
+
+/// All configurations of the connection, read at the first call.
+const std::vector<PixelFormat>& pixelFormats(PortConnection& connection);
+/// The configuration behind a format; null if there is none or the connection is lost.
+GLXFBConfig configOf(const PortConnection& connection, PortFormat format);
 
 struct PortContext {
   GLXContext context = nullptr;

@@ -2,39 +2,38 @@
 
 namespace {
 
-/// The configuration that needs the least: the first accelerated one for windows, or any for them.
-const PortPixelFormat* basicFormat(const std::vector<PortPixelFormat>& formats) {
-  const PortPixelFormat* found = nullptr;
-  for (const PortPixelFormat& format : formats) {
-    if (format.drawsToWindow && format.red >= 8 && format.green >= 8 && format.blue >= 8) {
+/// The configuration that needs the least: the first accelerated one for windows, or any for them;
+/// 0 without one.
+PortFormat basicFormat(const std::vector<PixelFormat>& formats) {
+  PortFormat full = 0;
+  PortFormat any = 0;
+  for (std::size_t i = 0; i < formats.size(); ++i) {
+    const PixelFormat& format = formats[i];
+    if (!format.drawsToWindow) {
+      continue;
+    }
+    if (format.red >= 8 && format.green >= 8 && format.blue >= 8) {
       if (format.accelerated) {
-        return &format;
+        return i + 1;
       }
-      if (!found) {
-        found = &format;
-      }
+      full = full ? full : i + 1;
     }
+    any = any ? any : i + 1;
   }
-  for (std::size_t i = 0; !found && i < formats.size(); ++i) {
-    if (formats[i].drawsToWindow) {
-      found = &formats[i];
-    }
-  }
-  return found;
+  return full ? full : any;
 }
 
 }  // namespace
 
 bool portBeginProbe(PortConnection* connection) {
-  const PortPixelFormat* format = basicFormat(portPixelFormats(connection));
-  if (!format || connection->dead) {
+  GLXFBConfig config = configOf(*connection, basicFormat(pixelFormats(*connection)));
+  if (!config) {
     return false;
   }
   Display* display = connection->display;
   bool current = false;
   {
     XErrorTrap trap(*connection);
-    GLXFBConfig config = connection->configs[format->id];
     XVisualInfo* visual = glXGetVisualFromFBConfig(display, config);
     if (!visual) {
       return false;

@@ -1,4 +1,5 @@
 #include <memory>
+#include <vector>
 
 #include "egl/backend/wgl/wgl_port.h"
 
@@ -46,19 +47,6 @@ void portDisconnect(PortConnection* connection) {
       return;
     }
   }
-}
-
-const std::vector<PortPixelFormat>& portPixelFormats(PortConnection* connection) {
-  // Formats are the screen's: another connection's probe has read those of this one too.
-  if (connection->formats.empty()) {
-    for (auto& other : connections()) {
-      if (!other->formats.empty()) {
-        connection->formats = other->formats;
-        break;
-      }
-    }
-  }
-  return connection->formats;
 }
 
 void* portGetProcAddress(const char* name) {

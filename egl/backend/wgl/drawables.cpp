@@ -1,50 +1,15 @@
 #include <memory>
+#include <vector>
 
-#include "egl/backend/wgl/wgl_port.h"
+#include "egl/backend/wgl/devices.h"
 
 #include <EGL/egl.h>
 
 namespace {
 
-BOOL CALLBACK keepFirstWindow(HWND window, LPARAM found) {
-  *reinterpret_cast<HWND*>(found) = window;
-  return FALSE;
-}
-
-/// A device to make pbuffers on: the connection's own, that of the thread's first window, or that
-/// of a hidden window where the thread has none.
-class PbufferDevice {
- public:
-  explicit PbufferDevice(const PortConnection& connection) : device(connection.display) {
-    if (device) {
-      return;
-    }
-    EnumThreadWindows(GetCurrentThreadId(), keepFirstWindow, reinterpret_cast<LPARAM>(&window));
-    if (!window) {
-      window = hidden = createHiddenWindow();
-    }
-    device = window ? GetDC(window) : nullptr;
-  }
-  ~PbufferDevice() {
-    if (window && device) {
-      ReleaseDC(window, device);
-    }
-    destroyHiddenWindow(hidden);
-  }
-  PbufferDevice(const PbufferDevice&) = delete;
-  PbufferDevice& operator=(const PbufferDevice&) = delete;
-
-  HDC get() const { return device; }
-
- private:
-  HDC device = nullptr;
-  HWND window = nullptr;
-  HWND hidden = nullptr;
-};
-
 /// Sets the format on the device; a device keeps the first one that it gets.
-bool setFormat(HDC device, const PortPixelFormat& format) {
-  const int index = static_cast<int>(format.id);
+bool setFormat(HDC device, PortFormat format) {
+  const int index = static_cast<int>(format);
   const int present = GetPixelFormat(device);
   if (present != 0) {
     return present == index;
@@ -52,15 +17,6 @@ bool setFormat(HDC device, const PortPixelFormat& format) {
   PIXELFORMATDESCRIPTOR descriptor = {};
   return DescribePixelFormat(device, index, sizeof descriptor, &descriptor) != 0 &&
          SetPixelFormat(device, index, &descriptor);
-}
-
-bool setPlainFormat(HDC device, const PortPixelFormat& format) {
-  if (GetPixelFormat(device) != 0) {
-    return true;
-  }
-  const PIXELFORMATDESCRIPTOR descriptor = plainDescriptor(device, format.depth, format.stencil);
-  const int index = ChoosePixelFormat(device, &descriptor);
-  return index != 0 && SetPixelFormat(device, index, &descriptor);
 }
 
 int textureFormatOf(int eglFormat) {
@@ -80,7 +36,7 @@ HWND windowOf(PortNativeWindow window) {
 
 }  // namespace
 
-PortContext* portCreateContext(PortConnection* connection, const PortPixelFormat&,
+PortContext* portCreateContext(PortConnection* connection, PortFormat,
                                PortDrawable* drawable) {
   if (!connection->shareRoot) {
     connection->shareRoot = wglCreateContext(drawable->device);
@@ -127,12 +83,8 @@ bool portWindowSize(PortConnection*, PortNativeWindow window, int* width, int* h
   return true;
 }
 
-std::uintptr_t portWindowVisual(PortConnection*, PortNativeWindow) {
-  return 0;
-}
-
 PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWindow window,
-                                       const PortPixelFormat& format) {
+                                       PortFormat format) {
   auto drawable = std::make_unique<PortDrawable>();
   drawable->window = windowOf(window);
   drawable->ownsDevice = connection->display == nullptr;
@@ -140,7 +92,7 @@ PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWin
   if (!drawable->device) {
     return nullptr;
   }
-  if (!setFormat(drawable->device, format) && !setPlainFormat(drawable->device, format)) {
+  if (!setFormat(drawable->device, format)) {
     portDestroyDrawable(connection, drawable.release());
     return nullptr;
   }
@@ -155,14 +107,14 @@ bool portSwapInterval(PortConnection*, PortDrawable*, int interval) {
   return wglExtensions.wglSwapIntervalEXT && wglExtensions.wglSwapIntervalEXT(interval);
 }
 
-PortDrawable* portCreatePbuffer(PortConnection* connection, const PortPixelFormat& format,
+PortDrawable* portCreatePbuffer(PortConnection* connection, PortFormat format,
                                 const PortPbufferRequest& request) {
   const PbufferDevice device(*connection);
   if (!device.get() || !wglExtensions.wglCreatePbufferARB) {
     return nullptr;
   }
   std::vector<int> attributes;
-  if (request.textureFormat != 0 && request.textureTarget != 0) {
+  if (request.textureFormat != 0 && request.textureTarget != 0 && portBindsTextures(connection)) {
     attributes = {
         WGL_TEXTURE_FORMAT_ARB, textureFormatOf(request.textureFormat), WGL_TEXTURE_TARGET_ARB,
         request.textureTarget == EGL_TEXTURE_2D ? WGL_TEXTURE_2D_ARB : WGL_NO_TEXTURE_ARB};
@@ -173,7 +125,7 @@ PortDrawable* portCreatePbuffer(PortConnection* connection, const PortPixelForma
   attributes.push_back(0);
   auto drawable = std::make_unique<PortDrawable>();
   drawable->pbuffer = wglExtensions.wglCreatePbufferARB(
-      device.get(), static_cast<int>(format.id), request.width, request.height, attributes.data());
+      device.get(), static_cast<int>(format), request.width, request.height, attributes.data());
   if (!drawable->pbuffer) {
     return nullptr;
   }

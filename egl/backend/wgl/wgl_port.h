@@ -2,7 +2,6 @@
 #define VARNEL_EGL_BACKEND_WGL_WGL_PORT_H
 
 #include <string>
-#include <vector>
 
 #include "egl/backend/port.h"
 
@@ -15,7 +14,6 @@
 struct PortConnection {
   HDC display = nullptr;  ///< null for the default display, whose windows have their own
 
-  std::vector<PortPixelFormat> formats;
   HGLRC shareRoot = nullptr;  ///< never current; all contexts share its objects
 
   HWND probeWindow = nullptr;

@@ -1,17 +1,17 @@
-#include "egl/backend/pixel_format.h"
+#include "egl/backend/glx/pixel_format.h"
 
 #include <algorithm>
 
 namespace {
 
-bool drawsTo(const PortPixelFormat& format, const PixelFormatRequest& request) {
+bool drawsTo(const PixelFormat& format, const PixelFormatRequest& request) {
   if (request.visual && format.visual != request.visual) {
     return false;
   }
   return request.window ? format.drawsToWindow : format.drawsToPbuffer;
 }
 
-bool meets(const PortPixelFormat& format, const PixelFormatRequest& request) {
+bool meets(const PixelFormat& format, const PixelFormatRequest& request) {
   return drawsTo(format, request) && (format.accelerated || !request.accelerated) &&
          format.doubleBuffer == request.doubleBuffer && format.red >= request.red &&
          format.green >= request.green && format.blue >= request.blue &&
@@ -30,7 +30,7 @@ int lack(int present, int wanted) {
 }
 
 /// Colours weigh most: a wrong width of theirs shows. Samples that nobody asked for cost time.
-int surplus(const PortPixelFormat& format, const PixelFormatRequest& request) {
+int surplus(const PixelFormat& format, const PixelFormatRequest& request) {
   const int colours = excess(format.red, request.red) + excess(format.green, request.green) +
                       excess(format.blue, request.blue) + excess(format.alpha, request.alpha);
   const int samples = excess(format.sampleBuffers, request.sampleBuffers) * 64 +
@@ -44,7 +44,7 @@ int surplus(const PortPixelFormat& format, const PixelFormatRequest& request) {
   return colours * 16 + samples + others + translucent + shallow;
 }
 
-int shortage(const PortPixelFormat& format, const PixelFormatRequest& request) {
+int shortage(const PixelFormat& format, const PixelFormatRequest& request) {
   int sum = 0;
   sum += format.doubleBuffer == request.doubleBuffer ? 0 : 4096;
   sum += format.accelerated || !request.accelerated ? 0 : 2048;
@@ -59,7 +59,7 @@ int shortage(const PortPixelFormat& format, const PixelFormatRequest& request) {
 
 }  // namespace
 
-std::vector<std::size_t> choosePixelFormats(const std::vector<PortPixelFormat>& formats,
+std::vector<std::size_t> choosePixelFormats(const std::vector<PixelFormat>& formats,
                                             const PixelFormatRequest& request, std::size_t limit) {
   std::vector<std::size_t> found;
   for (std::size_t i = 0; i < formats.size(); ++i) {
@@ -76,7 +76,7 @@ std::vector<std::size_t> choosePixelFormats(const std::vector<PortPixelFormat>& 
   return found;
 }
 
-int nearestPixelFormat(const std::vector<PortPixelFormat>& formats,
+int nearestPixelFormat(const std::vector<PixelFormat>& formats,
                        const PixelFormatRequest& request) {
   int best = -1;
   int bestCost = 0;

@@ -1,11 +1,11 @@
-#include "egl/backend/pixel_format.h"
+#include "egl/backend/glx/pixel_format.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-PortPixelFormat format(int colour, int alpha, int depth, int stencil) {
-  PortPixelFormat made;
+PixelFormat format(int colour, int alpha, int depth, int stencil) {
+  PixelFormat made;
   made.drawsToWindow = true;
   made.drawsToPbuffer = true;
   made.accelerated = true;
@@ -30,7 +30,7 @@ PixelFormatRequest request8888() {
 using Indexes = std::vector<std::size_t>;
 
 TEST(PixelFormat, SizesAreMinimaAndTheFewestBitsBeyondThemComeFirst) {
-  const std::vector<PortPixelFormat> formats = {format(8, 8, 32, 8), format(8, 0, 24, 8),
+  const std::vector<PixelFormat> formats = {format(8, 8, 32, 8), format(8, 0, 24, 8),
                                                 format(8, 8, 24, 8), format(10, 8, 24, 8)};
   EXPECT_EQ(choosePixelFormats(formats, request8888(), 16), (Indexes{2, 0, 3}));
   EXPECT_EQ(choosePixelFormats(formats, request8888(), 1), (Indexes{2}));
@@ -40,17 +40,17 @@ TEST(PixelFormat, A565RowGetsA565Format) {
   PixelFormatRequest request;
   request.red = request.blue = 5;
   request.green = 6;
-  const std::vector<PortPixelFormat> formats = {format(8, 8, 0, 0), format(5, 0, 24, 8)};
+  const std::vector<PixelFormat> formats = {format(8, 8, 0, 0), format(5, 0, 24, 8)};
   EXPECT_EQ(choosePixelFormats(formats, request, 16), (Indexes{1, 0}));
 }
 
 TEST(PixelFormat, EqualsStayInOrder) {
-  const std::vector<PortPixelFormat> formats(20, format(8, 8, 24, 8));
+  const std::vector<PixelFormat> formats(20, format(8, 8, 24, 8));
   EXPECT_EQ(choosePixelFormats(formats, request8888(), 3), (Indexes{0, 1, 2}));
 }
 
 TEST(PixelFormat, SamplesAreGivenOnlyWhenAsked) {
-  std::vector<PortPixelFormat> formats = {format(8, 8, 24, 8), format(8, 8, 24, 8)};
+  std::vector<PixelFormat> formats = {format(8, 8, 24, 8), format(8, 8, 24, 8)};
   formats[0].sampleBuffers = 1;
   formats[0].samples = 4;
   EXPECT_EQ(choosePixelFormats(formats, request8888(), 16), (Indexes{1, 0}));
@@ -61,7 +61,7 @@ TEST(PixelFormat, SamplesAreGivenOnlyWhenAsked) {
 }
 
 TEST(PixelFormat, BufferingVisualAndDrawableMustFit) {
-  std::vector<PortPixelFormat> formats(5, format(8, 8, 24, 8));
+  std::vector<PixelFormat> formats(5, format(8, 8, 24, 8));
   formats[0].doubleBuffer = true;
   formats[1].visual = 44;
   formats[2].drawsToWindow = false;
@@ -75,7 +75,7 @@ TEST(PixelFormat, BufferingVisualAndDrawableMustFit) {
 }
 
 TEST(PixelFormat, WindowsPreferOpaqueVisualsAndPbuffersDeepOnes) {
-  std::vector<PortPixelFormat> formats(2, format(8, 8, 24, 8));
+  std::vector<PixelFormat> formats(2, format(8, 8, 24, 8));
   formats[1].visualDepth = 32;
   PixelFormatRequest request = request8888();
   EXPECT_EQ(choosePixelFormats(formats, request, 16), (Indexes{1, 0}));
@@ -84,7 +84,7 @@ TEST(PixelFormat, WindowsPreferOpaqueVisualsAndPbuffersDeepOnes) {
 }
 
 TEST(PixelFormat, TheNearestFitsTheWindowAboveAll) {
-  std::vector<PortPixelFormat> formats(3, format(8, 8, 24, 8));
+  std::vector<PixelFormat> formats(3, format(8, 8, 24, 8));
   formats[0].visual = 44;
   formats[0].doubleBuffer = true;
   formats[1].alpha = 0;
@@ -101,7 +101,7 @@ TEST(PixelFormat, TheNearestFitsTheWindowAboveAll) {
 }
 
 TEST(PixelFormat, TheNearestGivesUpSamplesBeforeDepth) {
-  std::vector<PortPixelFormat> formats = {format(8, 8, 0, 0), format(8, 8, 24, 8)};
+  std::vector<PixelFormat> formats = {format(8, 8, 0, 0), format(8, 8, 24, 8)};
   formats[0].sampleBuffers = 1;
   formats[0].samples = 4;
   PixelFormatRequest request = request8888();
