@@ -1,6 +1,7 @@
 #include <mutex>
 #include <new>
 
+#include "egl/backend/thread_value.h"
 #include "egl/shim/shim.h"
 
 namespace {
@@ -32,20 +33,13 @@ void releaseCurrentOf(const EGLShimLocals& locals) {
   }
 }
 
-/// The slot of one thread; the record goes with the thread.
-struct ThreadSlot {
-  EGLShimLocals* record = nullptr;
-  ~ThreadSlot() {
-    if (record) {
-      ShimTurn turn;
-      releaseCurrentOf(*record);
-      freeLocals(record);
-      record = nullptr;
-    }
-  }
-};
-
-thread_local ThreadSlot slot;
+/// Called on the thread with its record.
+void endThread(void* record) {
+  auto* locals = static_cast<EGLShimLocals*>(record);
+  ShimTurn turn;
+  releaseCurrentOf(*locals);
+  freeLocals(locals);
+}
 
 }  // namespace
 
@@ -58,27 +52,30 @@ ShimTurn::~ShimTurn() {
 }
 
 EGLShimLocals* shimLocals() {
-  return slot.record;
+  return static_cast<EGLShimLocals*>(portThreadValue());
 }
 
 EGLShimLocals* ensureShimLocals() {
-  if (!slot.record) {
-    slot.record = new (std::nothrow) EGLShimLocals();
-    if (slot.record) {
-      slot.record->next = allLocals;
-      if (allLocals) {
-        allLocals->prev = slot.record;
-      }
-      allLocals = slot.record;
-    }
+  if (EGLShimLocals* present = shimLocals()) {
+    return present;
   }
-  return slot.record;
+  auto* made = new (std::nothrow) EGLShimLocals();
+  if (!made || !portSetThreadValue(made, endThread)) {
+    delete made;
+    return nullptr;
+  }
+  made->next = allLocals;
+  if (allLocals) {
+    allLocals->prev = made;
+  }
+  allLocals = made;
+  return made;
 }
 
 void dropShimLocals() {
-  if (slot.record) {
-    freeLocals(slot.record);
-    slot.record = nullptr;
+  if (EGLShimLocals* present = shimLocals()) {
+    portSetThreadValue(nullptr, endThread);
+    freeLocals(present);
   }
 }
 

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <limits>
 #include <utility>
-#include <vector>
 
 #include "engine/animation/animation_controller.h"
 #include "engine/animation/animation_track.h"
@@ -16,38 +15,31 @@ namespace {
 
 constexpr int never = std::numeric_limits<int>::max();
 
-// One object on the way down of a pass: how many references it has cached, and which is next.
-struct PassStep {
-  Object3D* object;
-  unsigned count;
-  unsigned next;
-};
-
-// The way down is kept here and not on the call stack, so that the depth does not matter; the
-// storage serves the next pass.
-thread_local std::vector<PassStep> passSteps;
-
 // Leaves the way down empty however the pass ends.
+template <class Path>
 class Pass {
  public:
-  Pass() = default;
+  explicit Pass(Path& path) : path(path) {}
   Pass(const Pass&) = delete;
   Pass& operator=(const Pass&) = delete;
-  ~Pass() { passSteps.clear(); }
+  ~Pass() { path.clear(); }
+
+ private:
+  Path& path;
 };
 
 }  // namespace
 
 int Object3D::animate(int worldTime) {
-  const Pass pass;
+  const Pass pass(animationPath);
   int validity = never;
-  const auto enter = [worldTime, &validity](Object3D& object) {
+  const auto enter = [this, worldTime, &validity](Object3D& object) {
     validity = std::min(validity, object.animateSelf(worldTime));
-    passSteps.push_back({&object, object.cacheCurrentReferences(), 0});
+    animationPath.push_back({&object, object.cacheCurrentReferences(), 0});
   };
   enter(*this);
-  while (!passSteps.empty()) {
-    PassStep& step = passSteps.back();
+  while (!animationPath.empty()) {
+    AnimationStep& step = animationPath.back();
     if (step.next < step.count) {
       enter(*step.object->referenceCache[step.next++]);
       continue;
@@ -55,7 +47,7 @@ int Object3D::animate(int worldTime) {
     if (!step.object->cacheReferences) {
       step.object->freeReferenceCache();
     }
-    passSteps.pop_back();
+    animationPath.pop_back();
   }
   return validity;
 }

@@ -130,10 +130,21 @@ class Object3D : public boost::enable_shared_from_this<Object3D> {
   unsigned cacheCurrentReferences();
   void freeReferenceCache();
 
+  /// One object on the way down of an animate pass: how many references it has cached, and which is
+  /// next.
+  struct AnimationStep {
+    Object3D* object;
+    unsigned count;
+    unsigned next;
+  };
+
   std::map<unsigned, HashEntry> animationValues;  // by target property
   /// Entries of earlier passes, whose memory serves the next ones.
   std::map<unsigned, HashEntry> spareAnimationValues;
   std::vector<boost::shared_ptr<AnimationTrack>> animationTracks;
+  /// The way down of a pass that begins here. It is not on the call stack, so that the depth does
+  /// not matter; its storage serves the next pass.
+  std::vector<AnimationStep> animationPath;
   boost::shared_ptr<Object3D>* referenceCache = nullptr;  // made by the first animate
   unsigned referenceCacheSize = 0;
   bool cacheReferences = true;
