@@ -3,7 +3,15 @@
 #include <algorithm>
 #include <limits>
 
+#include "engine/loader/file_name.h"
+
 namespace varnel_m3g {
+
+#ifdef _WIN32
+ImageFile::ImageFile(const char* name) : file(_wfopen(systemFileName(name).c_str(), L"rb")) {}
+#else
+ImageFile::ImageFile(const char* name) : file(std::fopen(name, "rb")) {}
+#endif
 
 std::uint64_t ImageFile::size() const {
   const long position = std::ftell(file);

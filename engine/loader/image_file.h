@@ -13,7 +13,8 @@ constexpr std::size_t imageSignatureLength = 8;
 /// An image file that is open for reading, closed with this object. It may not exist.
 class ImageFile {
  public:
-  explicit ImageFile(const char* name) : file(std::fopen(name, "rb")) {}
+  /// The name is in UTF-8.
+  explicit ImageFile(const char* name);
   ImageFile(const ImageFile&) = delete;
   ImageFile& operator=(const ImageFile&) = delete;
   ~ImageFile() {

@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "engine/loader/file_name.h"
 #include "engine/loader/m3g_object_input_stream.h"
 #include "engine/object/object3d.h"
 #include "engine/scene/group.h"
@@ -82,7 +83,7 @@ void Loader::readFile(const char* name, ObjectTable& objects) {
     objects.push_back(readJPEG(name));
     return;
   }
-  stream.open(name, std::ios::in | std::ios::binary);
+  stream.open(systemFileName(name), std::ios::in | std::ios::binary);
   if (!stream) {
     throw std::runtime_error("Loader::load:  Can't load file");
   }
