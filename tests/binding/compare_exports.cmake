@@ -1,11 +1,33 @@
-# Compares the symbols that a library defines for others with a list, both ways.
-# Arguments: LIBRARY, NATIVES (one name per line), NM.
-execute_process(COMMAND "${NM}" -D --defined-only "${LIBRARY}"
-  OUTPUT_VARIABLE table RESULT_VARIABLE result)
-if(NOT result EQUAL 0)
-  message(FATAL_ERROR "${NM} cannot read ${LIBRARY}")
+# Compares the symbols that a library defines for others with a list, both ways; of a Windows DLL
+# also what other DLLs it needs.
+# Arguments: LIBRARY, NATIVES (one name per line), and NM, or for a DLL OBJDUMP.
+cmake_policy(VERSION 3.25)
+if(OBJDUMP)
+  execute_process(COMMAND "${OBJDUMP}" -p "${LIBRARY}"
+    OUTPUT_VARIABLE table RESULT_VARIABLE result)
+  # Windows' own, of its oldest supported version.
+  set(systems gdi32.dll kernel32.dll msvcrt.dll opengl32.dll user32.dll)
+  string(REGEX MATCHALL "DLL Name: [^\n]+" needed "${table}")
+  foreach(line IN LISTS needed)
+    string(REGEX REPLACE "^DLL Name: " "" name "${line}")
+    string(TOLOWER "${name}" name)
+    if(NOT name IN_LIST systems)
+      message(FATAL_ERROR "${LIBRARY} needs ${name}")
+    endif()
+  endforeach()
+  # A line for each name, an ordinal in brackets before it, up to the next empty line.
+  string(REGEX REPLACE "^.*\\[Ordinal/Name Pointer\\] Table" "" table "${table}")
+  string(FIND "${table}" "\n\n" end)
+  string(SUBSTRING "${table}" 0 ${end} table)
+  string(REGEX MATCHALL "\\[ *[0-9]+\\] [^\n]+" table "${table}")
+else()
+  execute_process(COMMAND "${NM}" -D --defined-only "${LIBRARY}"
+    OUTPUT_VARIABLE table RESULT_VARIABLE result)
+  string(REGEX MATCHALL "[^\n]+" table "${table}")
 endif()
-string(REGEX MATCHALL "[^\n]+" table "${table}")
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "${LIBRARY} cannot be read")
+endif()
 set(defined "")
 foreach(line IN LISTS table)
   string(REGEX REPLACE "^.* " "" name "${line}")

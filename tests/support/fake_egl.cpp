@@ -1,5 +1,7 @@
 #include "tests/support/fake_egl.h"
 
+#include "tests/support/native_client.h"
+
 namespace {
 
 FakeEgl* fake = nullptr;
@@ -173,7 +175,7 @@ EGLSurface FakeEgl::makeSurfaceCurrent() {
   EGLConfig config = nullptr;
   EGLint found = 0;
   eglGetConfigs(display, &config, 1, &found);
-  surface = eglCreateWindowSurface(display, config, static_cast<EGLNativeWindowType>(1), nullptr);
+  surface = eglCreateWindowSurface(display, config, nativeWindow(1), nullptr);
   context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
   eglMakeCurrent(display, surface, surface, context);
   return surface;

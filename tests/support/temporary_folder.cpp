@@ -1,19 +1,19 @@
 #include "tests/support/temporary_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
+#include <random>
+#include <string>
 
 #include "tests/support/m3g_writer.h"
 
 namespace varnel_test {
 
 TemporaryFolder::TemporaryFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "varnel-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) {
-    throw std::runtime_error("cannot make " + pattern);
-  }
-  folder = pattern;
+  std::random_device random;
+  do {
+    const std::string name = "varnel-" + std::to_string(random());
+    folder = (std::filesystem::temp_directory_path() / name).string();
+  } while (!std::filesystem::create_directory(folder));
 }
 
 TemporaryFolder::~TemporaryFolder() {

@@ -7,7 +7,6 @@
 
 #include <X11/Xatom.h>
 #include "egl/backend/glx/glx_port.h"
-#include "egl/backend/pixel_format.h"
 
 namespace {
 
@@ -57,20 +56,14 @@ void setChildError(PortConnection& connection, int code) {
 }
 
 /// The format that the renderer's window configuration would choose, so that its visual fits.
-const PortPixelFormat* windowFormat(PortConnection& connection) {
-  PixelFormatRequest request;
-  request.window = true;
+PortFormat windowFormat(PortConnection& connection) {
+  PortFormatRequest request;
   request.doubleBuffer = true;
   request.red = request.green = request.blue = request.alpha = 8;
   request.depth = 24;
   request.stencil = 8;
-  const std::vector<PortPixelFormat>& formats = portPixelFormats(&connection);
-  const std::vector<std::size_t> exact = choosePixelFormats(formats, request, 1);
-  if (!exact.empty()) {
-    return &formats[exact[0]];
-  }
-  const int nearest = nearestPixelFormat(formats, request);
-  return nearest < 0 ? nullptr : &formats[static_cast<std::size_t>(nearest)];
+  const PortFormat exact = portChooseWindowFormat(&connection, 0, request);
+  return exact ? exact : portPlainWindowFormat(&connection, 0, request);
 }
 
 void setWindowProperties(Display* display, Window window) {
@@ -157,14 +150,14 @@ const char* nativeWindowError() {
 
 EGLNativeWindowType createNativeWindow() {
   PortConnection* connection = liveConnection();
-  const PortPixelFormat* format = connection ? windowFormat(*connection) : nullptr;
-  if (!format) {
+  GLXFBConfig config = connection ? configOf(*connection, windowFormat(*connection)) : nullptr;
+  if (!config) {
     setError("Bad class");
     return 0;
   }
   XErrorTrap trap(*connection);
   Display* display = connection->display;
-  XVisualInfo* visual = glXGetVisualFromFBConfig(display, connection->configs[format->id]);
+  XVisualInfo* visual = glXGetVisualFromFBConfig(display, config);
   if (!visual) {
     setError("Bad class");
     return 0;
@@ -214,6 +207,10 @@ EGLNativeWindowType createNativeChildWindow(EGLNativeWindowType parent) {
   made->window = XCreateWindow(display, parent, 0, 0, static_cast<unsigned>(size.width),
                                static_cast<unsigned>(size.height), 0, size.depth, InputOutput,
                                size.visual, CWBackPixel | CWEventMask, &attributes);
+  char instance[] = "varneljni";
+  char className[] = "ChildWClass";
+  XClassHint names = {instance, className};
+  XSetClassHint(display, made->window, &names);
   made->gc = XCreateGC(display, made->window, 0, nullptr);
   XMapWindow(display, made->window);
   if (trap.failed()) {

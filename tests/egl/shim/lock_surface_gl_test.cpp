@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "gles/driver/driver.h"
-#include "tests/support/x_client.h"
+#include "tests/support/native_client.h"
 
 extern "C" EGLBoolean eglLockSurfaceKHR(EGLDisplay, EGLSurface, const EGLint*);
 extern "C" EGLBoolean eglUnlockSurfaceKHR(EGLDisplay, EGLSurface);
@@ -52,7 +52,7 @@ class LockedSurface : public testing::TestWithParam<bool> {
     ASSERT_TRUE(eglChooseConfig(display, attributes, &config, 1, &count));
     ASSERT_EQ(count, 1);
     window = client.createWindow(width, height);
-    surface = eglCreateWindowSurface(display, config, window, nullptr);
+    surface = eglCreateWindowSurface(display, config, nativeWindow(window), nullptr);
     ASSERT_NE(surface, EGL_NO_SURFACE);
     context = eglCreateContext(display, config, EGL_NO_CONTEXT, nullptr);
     ASSERT_NE(context, EGL_NO_CONTEXT);
@@ -117,7 +117,7 @@ class LockedSurface : public testing::TestWithParam<bool> {
                         << wanted(0, 0, is565());
   }
 
-  XClient client;
+  NativeClient client;
   EGLDisplay display = EGL_NO_DISPLAY;
   EGLConfig config = nullptr;
   std::uintptr_t window = 0;
@@ -368,7 +368,7 @@ TEST_P(LockedSurface, ALostWindowIsUnlockedAllTheSame) {
 
 TEST_P(LockedSurface, ANarrowWindowIsShownUnchanged) {
   const auto narrow = client.createWindow(1, 3);
-  EGLSurface other = eglCreateWindowSurface(display, config, narrow, nullptr);
+  EGLSurface other = eglCreateWindowSurface(display, config, nativeWindow(narrow), nullptr);
   ASSERT_NE(other, EGL_NO_SURFACE);
   ASSERT_TRUE(eglLockSurfaceKHR(display, other, nullptr));
   EGLint address = 0;

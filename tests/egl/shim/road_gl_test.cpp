@@ -1,4 +1,4 @@
-// From the display to the swap, through the published names, on a real X server.
+// From the display to the swap, through the published names, on the real window system.
 #include <EGL/egl.h>
 #include <GLES/gl.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <thread>
 
 #include "egl/window/native_window.h"
-#include "tests/support/x_client.h"
+#include "tests/support/native_client.h"
 
 namespace {
 
@@ -96,7 +96,7 @@ TEST_F(Road, AnotherThreadTakesOverWhatAnEndedOneHadCurrent) {
 
 TEST_F(Road, ShowsASwappedFrameInTheWindow) {
   EGLNativeWindowType window = createNativeWindow();
-  ASSERT_NE(window, 0u) << nativeWindowError();
+  ASSERT_TRUE(window) << nativeWindowError();
   std::uintptr_t deviceContext = 0;
   ASSERT_TRUE(realizeNativeWindow(window, &deviceContext));
   EGLConfig config = choose(EGL_WINDOW_BIT);
@@ -118,11 +118,11 @@ TEST_F(Road, ShowsASwappedFrameInTheWindow) {
   glClear(GL_COLOR_BUFFER_BIT);
   EXPECT_TRUE(eglSwapBuffers(display, surface));
   EXPECT_TRUE(eglWaitClient());
-  pumpNativeMessages(window);
+  pumpNativeMessages(idOf(window));
   pumpNativeMessages(deviceContext);
-  XClient client;
-  EXPECT_EQ(client.pixel(window, 320, 10), 0x00FF00u);
-  EXPECT_EQ(client.pixel(window, 320, 470), 0xFF0000u);
+  NativeClient client;
+  EXPECT_EQ(client.pixel(idOf(window), 320, 10), 0x00FF00u);
+  EXPECT_EQ(client.pixel(idOf(window), 320, 470), 0xFF0000u);
   eglDestroySurface(display, surface);
   eglMakeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
   destroyNativeWindow(window);

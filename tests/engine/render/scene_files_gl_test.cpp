@@ -64,10 +64,11 @@ class SceneFilesTest : public PixelTest {
     const varnel_test::CurrentFolder here(folder.string());
     Count count;
     for (const fs::path& file : scenesOf(folder)) {
-      SCOPED_TRACE(file.filename().string());
+      const std::string name = file.filename().string();
+      SCOPED_TRACE(name);
       const varnel_test::Loaded loaded = varnel_test::loadFile(file.string());
       if (!loaded.failure.empty()) {
-        std::printf("%s is refused: %s\n", file.filename().c_str(), loaded.failure.c_str());
+        std::printf("%s is refused: %s\n", name.c_str(), loaded.failure.c_str());
         continue;
       }
       ++count.loaded;
@@ -79,7 +80,7 @@ class SceneFilesTest : public PixelTest {
       if (show(world)) {
         ++count.shown;
       } else {
-        std::printf("%s shows one colour\n", file.filename().c_str());
+        std::printf("%s shows one colour\n", name.c_str());
       }
     }
     return count;

@@ -4,7 +4,7 @@
 #include "engine/render/window_target.h"
 #include "tests/support/fake_egl.h"
 #include "tests/support/render_fixture.h"
-#include "tests/support/x_client.h"
+#include "tests/support/native_client.h"
 
 using namespace varnel_m3g;
 
@@ -70,16 +70,16 @@ TEST(WindowTargetGlTest, OnceItsUserHasClosedTheWindowABindIsRefused) {
   EXPECT_EQ(graphics.getViewportWidth(), 640);
   EXPECT_EQ(graphics.getViewportHeight(), 480);
   graphics.clear(nullptr);
-  XClient().sendDelete(static_cast<std::uintptr_t>(window));
+  NativeClient().askToClose(idOf(window));
   graphics.releaseTarget();
   eglSwapBuffers(display, record.surface);
-  pumpNativeMessages(static_cast<std::uintptr_t>(window));
+  pumpNativeMessages(idOf(window));
   for (int i = 0; i < 2; ++i) {
     EXPECT_EQ(failureOf<std::invalid_argument>([&] { graphics.bindTarget(&record); }),
               "Exception: Graphics3D.bindTarget().  targetCanvas must point to a valid rendering "
               "target, that target must be created from the default EGLDisplay.");
     eglSwapBuffers(display, record.surface);
-    pumpNativeMessages(static_cast<std::uintptr_t>(window));
+    pumpNativeMessages(idOf(window));
   }
   eglMakeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
   eglDestroyContext(display, context);

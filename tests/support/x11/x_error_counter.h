@@ -1,5 +1,5 @@
-#ifndef VARNEL_TESTS_SUPPORT_X_ERROR_COUNTER_H
-#define VARNEL_TESTS_SUPPORT_X_ERROR_COUNTER_H
+#ifndef VARNEL_TESTS_SUPPORT_X11_X_ERROR_COUNTER_H
+#define VARNEL_TESTS_SUPPORT_X11_X_ERROR_COUNTER_H
 
 /// An application's X error handler: counts the errors that reach it while it lives.
 class XErrorCounter {

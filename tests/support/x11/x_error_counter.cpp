@@ -1,4 +1,4 @@
-#include "tests/support/x_error_counter.h"
+#include "tests/support/x11/x_error_counter.h"
 
 #include <X11/Xlib.h>
 

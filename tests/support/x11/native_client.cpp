@@ -1,4 +1,4 @@
-#include "tests/support/x_client.h"
+#include "tests/support/native_client.h"
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -6,9 +6,7 @@
 
 #include <stdexcept>
 
-struct XClient::Connection {
-  Display* display = nullptr;
-};
+#include "tests/support/x11/x_connection.h"
 
 namespace {
 
@@ -34,26 +32,30 @@ class Quiet {
 
 }  // namespace
 
-XClient::XClient() : connection(std::make_unique<Connection>()) {
+NativeClient::NativeClient() : connection(std::make_unique<Connection>()) {
   connection->display = XOpenDisplay(nullptr);
   if (!connection->display) {
     throw std::runtime_error("no X display");
   }
 }
 
-XClient::~XClient() {
+NativeClient::~NativeClient() {
   XCloseDisplay(connection->display);
 }
 
-void* XClient::display() const {
-  return connection->display;
+std::uintptr_t NativeClient::displayOf(std::uintptr_t) const {
+  return reinterpret_cast<std::uintptr_t>(connection->display);
 }
 
-std::uint32_t XClient::pixel(std::uintptr_t drawable, int x, int y) {
-  return static_cast<std::uint32_t>(raw(drawable, x, y) & 0xFFFFFF);
+bool NativeClient::showsOpenGlOfChildren() {
+  return true;
 }
 
-std::string XClient::title(std::uintptr_t window) {
+std::uint32_t NativeClient::pixel(std::uintptr_t window, int x, int y) {
+  return static_cast<std::uint32_t>(raw(window, x, y) & 0xFFFFFF);
+}
+
+std::string NativeClient::title(std::uintptr_t window) {
   char* name = nullptr;
   std::string text;
   if (XFetchName(connection->display, window, &name) && name) {
@@ -63,7 +65,7 @@ std::string XClient::title(std::uintptr_t window) {
   return text;
 }
 
-std::string XClient::className(std::uintptr_t window) {
+std::string NativeClient::className(std::uintptr_t window) {
   XClassHint hint = {};
   std::string text;
   if (XGetClassHint(connection->display, window, &hint)) {
@@ -74,7 +76,7 @@ std::string XClient::className(std::uintptr_t window) {
   return text;
 }
 
-long XClient::process(std::uintptr_t window) {
+long NativeClient::process(std::uintptr_t window) {
   Atom type = 0;
   int format = 0;
   unsigned long count = 0;
@@ -91,20 +93,20 @@ long XClient::process(std::uintptr_t window) {
   return value;
 }
 
-bool XClient::isMapped(std::uintptr_t window) {
+bool NativeClient::isShown(std::uintptr_t window) {
   const Quiet quiet(connection->display);
   XWindowAttributes attributes;
   return XGetWindowAttributes(connection->display, window, &attributes) &&
          attributes.map_state != IsUnmapped;
 }
 
-bool XClient::exists(std::uintptr_t window) {
+bool NativeClient::exists(std::uintptr_t window) {
   const Quiet quiet(connection->display);
   XWindowAttributes attributes;
   return XGetWindowAttributes(connection->display, window, &attributes) != 0;
 }
 
-void XClient::sendDelete(std::uintptr_t window) {
+void NativeClient::askToClose(std::uintptr_t window) {
   XEvent event = {};
   event.xclient.type = ClientMessage;
   event.xclient.window = window;
@@ -116,28 +118,18 @@ void XClient::sendDelete(std::uintptr_t window) {
   XSync(connection->display, False);
 }
 
-void XClient::destroyWindow(std::uintptr_t window) {
+void NativeClient::destroyWindow(std::uintptr_t window) {
   const Quiet quiet(connection->display);
   XDestroyWindow(connection->display, window);
 }
 
-void XClient::resizeWindow(std::uintptr_t window, int width, int height) {
+void NativeClient::resizeWindow(std::uintptr_t window, int width, int height) {
   XResizeWindow(connection->display, window, static_cast<unsigned>(width),
                 static_cast<unsigned>(height));
   XSync(connection->display, False);
 }
 
-void XClient::killOwner(std::uintptr_t resource) {
-  XKillClient(connection->display, resource);
-  XSync(connection->display, False);
-}
-
-void XClient::provokeError() {
-  XMapWindow(connection->display, 4711);
-  XSync(connection->display, False);
-}
-
-std::uintptr_t XClient::createWindow(int width, int height) {
+std::uintptr_t NativeClient::createWindow(int width, int height) {
   const Window window =
       XCreateSimpleWindow(connection->display, DefaultRootWindow(connection->display), 0, 0,
                           static_cast<unsigned>(width), static_cast<unsigned>(height), 0, 0, 0);
@@ -146,30 +138,7 @@ std::uintptr_t XClient::createWindow(int width, int height) {
   return window;
 }
 
-std::uintptr_t XClient::createWindowOfDepth(int width, int height, int depth) {
-  Display* display = connection->display;
-  XVisualInfo wanted = {};
-  wanted.depth = depth;
-  wanted.c_class = TrueColor;
-  int count = 0;
-  XVisualInfo* visuals =
-      XGetVisualInfo(display, VisualDepthMask | VisualClassMask, &wanted, &count);
-  if (!visuals) {
-    return 0;
-  }
-  const Window root = DefaultRootWindow(display);
-  XSetWindowAttributes attributes = {};
-  attributes.colormap = XCreateColormap(display, root, visuals[0].visual, AllocNone);
-  const Window window = XCreateWindow(
-      display, root, 0, 0, static_cast<unsigned>(width), static_cast<unsigned>(height), 0, depth,
-      InputOutput, visuals[0].visual, CWBackPixel | CWBorderPixel | CWColormap, &attributes);
-  XFree(visuals);
-  XMapWindow(display, window);
-  XSync(display, False);
-  return window;
-}
-
-bool XClient::hasDepth(int depth) {
+bool NativeClient::hasDepth(int depth) {
   int count = 0;
   int* depths = XListDepths(connection->display, DefaultScreen(connection->display), &count);
   bool found = false;
@@ -182,7 +151,7 @@ bool XClient::hasDepth(int depth) {
   return found;
 }
 
-std::uintptr_t XClient::createPixmap(int width, int height, int depth) {
+std::uintptr_t NativeClient::createPixmap(int width, int height, int depth) {
   const Pixmap pixmap = XCreatePixmap(connection->display, DefaultRootWindow(connection->display),
                                       static_cast<unsigned>(width), static_cast<unsigned>(height),
                                       static_cast<unsigned>(depth));
@@ -190,12 +159,12 @@ std::uintptr_t XClient::createPixmap(int width, int height, int depth) {
   return pixmap;
 }
 
-void XClient::freePixmap(std::uintptr_t pixmap) {
+void NativeClient::freePixmap(std::uintptr_t pixmap) {
   XFreePixmap(connection->display, pixmap);
   XSync(connection->display, False);
 }
 
-void XClient::setRaw(std::uintptr_t pixmap, int x, int y, unsigned long value) {
+void NativeClient::setRaw(std::uintptr_t pixmap, int x, int y, unsigned long value) {
   XGCValues values = {};
   values.foreground = value;
   GC gc = XCreateGC(connection->display, pixmap, GCForeground, &values);
@@ -204,7 +173,7 @@ void XClient::setRaw(std::uintptr_t pixmap, int x, int y, unsigned long value) {
   XSync(connection->display, False);
 }
 
-unsigned long XClient::raw(std::uintptr_t pixmap, int x, int y) {
+unsigned long NativeClient::raw(std::uintptr_t pixmap, int x, int y) {
   XImage* image = XGetImage(connection->display, pixmap, x, y, 1, 1, AllPlanes, ZPixmap);
   if (!image) {
     throw std::runtime_error("no such drawable");

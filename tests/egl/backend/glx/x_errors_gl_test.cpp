@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "egl/window/native_window.h"
-#include "tests/support/x_client.h"
-#include "tests/support/x_error_counter.h"
+#include "tests/support/x11/x_client.h"
+#include "tests/support/x11/x_error_counter.h"
 
 namespace {
 
