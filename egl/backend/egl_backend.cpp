@@ -4,7 +4,7 @@
 
 #include "egl/backend/egw.h"
 
-extern "C" void glEGLImageTargetTexture2DOES(unsigned target, void* image);
+extern "C" void KHRONOS_APIENTRY glEGLImageTargetTexture2DOES(unsigned target, void* image);
 
 namespace {
 

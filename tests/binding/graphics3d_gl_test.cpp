@@ -7,6 +7,7 @@
 
 #include "binding/frame/frame.h"
 #include "tests/support/fake_egl.h"
+#include "tests/support/java_function.h"
 
 extern "C" {
 JNIEXPORT void JNICALL Java_javax_microedition_m3g_Graphics3D_bindTargetN__JLjava_lang_Object_2(
@@ -22,15 +23,15 @@ std::string raised;
 // A machine that knows no more than how to raise, and notes what.
 JNINativeInterface_ raisingMachine() {
   JNINativeInterface_ natives = {};
-  natives.FindClass = [](JNIEnv*, const char* name) {
+  varnel_test::answerBy(natives.FindClass, [](JNIEnv*, const char* name) {
     raised = name;
     return reinterpret_cast<jclass>(&raised);
-  };
-  natives.ThrowNew = [](JNIEnv*, jclass, const char* message) -> jint {
+  });
+  varnel_test::answerBy(natives.ThrowNew, [](JNIEnv*, jclass, const char* message) -> jint {
     raised += std::string(": ") + message;
     return 0;
-  };
-  natives.DeleteLocalRef = [](JNIEnv*, jobject) {};
+  });
+  varnel_test::answerBy(natives.DeleteLocalRef, [](JNIEnv*, jobject) {});
   return natives;
 }
 

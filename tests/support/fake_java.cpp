@@ -1,5 +1,7 @@
 #include "tests/support/fake_java.h"
 
+#include "tests/support/java_function.h"
+
 namespace varnel_test {
 
 namespace {
@@ -16,30 +18,30 @@ FakeJava::FakeJava() {
   machine.vm.functions = &invocations;
   machine.owner = this;
 
-  natives.GetJavaVM = [](JNIEnv* env, JavaVM** vm) -> jint {
+  answerBy(natives.GetJavaVM, [](JNIEnv* env, JavaVM** vm) -> jint {
     ownerOf(env).calls.push_back("GetJavaVM");
     *vm = ownerOf(env).vm();
     return JNI_OK;
-  };
-  natives.NewGlobalRef = [](JNIEnv* env, jobject reference) -> jobject {
+  });
+  answerBy(natives.NewGlobalRef, [](JNIEnv* env, jobject reference) -> jobject {
     ownerOf(env).calls.push_back(numbered("NewGlobalRef", reference));
     return object(reinterpret_cast<std::intptr_t>(reference) + 1000);
-  };
-  natives.DeleteGlobalRef = [](JNIEnv* env, jobject reference) {
+  });
+  answerBy(natives.DeleteGlobalRef, [](JNIEnv* env, jobject reference) {
     ownerOf(env).calls.push_back(numbered("DeleteGlobalRef", reference));
-  };
-  natives.NewLocalRef = [](JNIEnv* env, jobject reference) -> jobject {
+  });
+  answerBy(natives.NewLocalRef, [](JNIEnv* env, jobject reference) -> jobject {
     ownerOf(env).calls.push_back(numbered("NewLocalRef", reference));
     return reference;
-  };
-  invocations.GetEnv = [](JavaVM* vm, void** env, jint version) -> jint {
+  });
+  answerBy(invocations.GetEnv, [](JavaVM* vm, void** env, jint version) -> jint {
     FakeJava& owner = ownerOf(vm);
     owner.calls.push_back(
         numbered("GetEnv", reinterpret_cast<void*>(static_cast<std::intptr_t>(version))));
     *env = owner.attached ? owner.env() : nullptr;
     return owner.attached ? JNI_OK : JNI_EDETACHED;
-  };
-  invocations.AttachCurrentThread = [](JavaVM* vm, void** env, void* arguments) -> jint {
+  });
+  answerBy(invocations.AttachCurrentThread, [](JavaVM* vm, void** env, void* arguments) -> jint {
     FakeJava& owner = ownerOf(vm);
     owner.calls.push_back(numbered("AttachCurrentThread", arguments));
     if (!owner.attachSucceeds) {
@@ -47,11 +49,11 @@ FakeJava::FakeJava() {
     }
     *env = owner.env();
     return JNI_OK;
-  };
-  invocations.DetachCurrentThread = [](JavaVM* vm) -> jint {
+  });
+  answerBy(invocations.DetachCurrentThread, [](JavaVM* vm) -> jint {
     ownerOf(vm).calls.push_back("DetachCurrentThread");
     return JNI_OK;
-  };
+  });
 }
 
 }  // namespace varnel_test

@@ -3,6 +3,8 @@
 #include <cstdarg>
 #include <cstdint>
 
+#include "tests/support/java_function.h"
+
 namespace varnel_test {
 
 namespace {
@@ -53,67 +55,68 @@ jclass SmallJava::classOf(const std::string& name) {
 }
 
 void SmallJava::fillNatives() {
-  natives.FindClass = [](JNIEnv* env, const char* name) { return ownerOf(env).classOf(name); };
-  natives.GetMethodID = [](JNIEnv*, jclass, const char*, const char*) {
-    return idOf(CONSTRUCTOR_OF_HANDLE);
-  };
-  natives.GetStaticMethodID = [](JNIEnv*, jclass, const char*, const char* signature) {
+  answerBy(natives.FindClass,
+           [](JNIEnv* env, const char* name) { return ownerOf(env).classOf(name); });
+  answerBy(natives.GetMethodID,
+           [](JNIEnv*, jclass, const char*, const char*) { return idOf(CONSTRUCTOR_OF_HANDLE); });
+  answerBy(natives.GetStaticMethodID, [](JNIEnv*, jclass, const char*, const char* signature) {
     return idOf(std::string(signature).find("Z)") != std::string::npos ? STATIC_BOOLEAN
                                                                        : STATIC_INT);
-  };
-  natives.NewObjectV = [](JNIEnv* env, jclass type, jmethodID, va_list arguments) {
+  });
+  answerBy(natives.NewObjectV, [](JNIEnv* env, jclass type, jmethodID, va_list arguments) {
     SmallJava& java = ownerOf(env);
     const jobject made = java.newObject(get(type).text, va_arg(arguments, jlong));
     if (java.constructed) {
       java.constructed(made);
     }
     return made;
-  };
-  natives.CallStaticVoidMethodV = [](JNIEnv* env, jclass, jmethodID method, va_list arguments) {
-    const std::string name = get(va_arg(arguments, jobject)).text;
-    const int value = va_arg(arguments, int);
-    ownerOf(env).values[name] = methodOf(method) == STATIC_BOOLEAN ? value != 0 : value;
-  };
-  natives.ThrowNew = [](JNIEnv* env, jclass type, const char* message) -> jint {
+  });
+  answerBy(natives.CallStaticVoidMethodV,
+           [](JNIEnv* env, jclass, jmethodID method, va_list arguments) {
+             const std::string name = get(va_arg(arguments, jobject)).text;
+             const int value = va_arg(arguments, int);
+             ownerOf(env).values[name] = methodOf(method) == STATIC_BOOLEAN ? value != 0 : value;
+           });
+  answerBy(natives.ThrowNew, [](JNIEnv* env, jclass type, const char* message) -> jint {
     ownerOf(env).exception = get(type).text + ": " + message;
     return 0;
-  };
-  natives.ExceptionCheck = [](JNIEnv* env) -> jboolean {
+  });
+  answerBy(natives.ExceptionCheck, [](JNIEnv* env) -> jboolean {
     return ownerOf(env).exception.empty() ? JNI_FALSE : JNI_TRUE;
-  };
-  natives.NewLocalRef = [](JNIEnv*, jobject object) { return object; };
-  natives.DeleteLocalRef = [](JNIEnv*, jobject) {};
-  natives.NewGlobalRef = [](JNIEnv*, jobject object) { return object; };
-  natives.DeleteGlobalRef = [](JNIEnv*, jobject) {};
-  natives.NewStringUTF = [](JNIEnv* env, const char* text) { return ownerOf(env).newString(text); };
-  natives.GetStringUTFChars = [](JNIEnv*, jstring text, jboolean*) {
-    return get(text).text.c_str();
-  };
-  natives.ReleaseStringUTFChars = [](JNIEnv*, jstring, const char*) {};
-  natives.GetArrayLength = [](JNIEnv*, jarray array) {
-    return static_cast<jsize>(get(array).elements.size());
-  };
-  natives.NewObjectArray = [](JNIEnv* env, jsize length, jclass, jobject initial) {
+  });
+  answerBy(natives.NewLocalRef, [](JNIEnv*, jobject object) { return object; });
+  answerBy(natives.DeleteLocalRef, [](JNIEnv*, jobject) {});
+  answerBy(natives.NewGlobalRef, [](JNIEnv*, jobject object) { return object; });
+  answerBy(natives.DeleteGlobalRef, [](JNIEnv*, jobject) {});
+  answerBy(natives.NewStringUTF,
+           [](JNIEnv* env, const char* text) { return ownerOf(env).newString(text); });
+  answerBy(natives.GetStringUTFChars,
+           [](JNIEnv*, jstring text, jboolean*) { return get(text).text.c_str(); });
+  answerBy(natives.ReleaseStringUTFChars, [](JNIEnv*, jstring, const char*) {});
+  answerBy(natives.GetArrayLength,
+           [](JNIEnv*, jarray array) { return static_cast<jsize>(get(array).elements.size()); });
+  answerBy(natives.NewObjectArray, [](JNIEnv* env, jsize length, jclass, jobject initial) {
     const jobject made = ownerOf(env).newObject("[Ljava/lang/Object;");
     get(made).elements.assign(static_cast<std::size_t>(length), initial);
     return static_cast<jobjectArray>(made);
-  };
-  natives.SetObjectArrayElement = [](JNIEnv*, jobjectArray array, jsize index, jobject value) {
-    get(array).elements.at(static_cast<std::size_t>(index)) = value;
-  };
-  natives.GetJavaVM = [](JNIEnv* env, JavaVM** vm) -> jint {
+  });
+  answerBy(natives.SetObjectArrayElement,
+           [](JNIEnv*, jobjectArray array, jsize index, jobject value) {
+             get(array).elements.at(static_cast<std::size_t>(index)) = value;
+           });
+  answerBy(natives.GetJavaVM, [](JNIEnv* env, JavaVM** vm) -> jint {
     *vm = &ownerOf(env).machine.vm;
     return 0;
-  };
-  invocations.GetEnv = [](JavaVM* vm, void** env, jint) -> jint {
+  });
+  answerBy(invocations.GetEnv, [](JavaVM* vm, void** env, jint) -> jint {
     *env = &reinterpret_cast<Machine*>(vm)->owner->environment.env;
     return 0;
-  };
-  invocations.AttachCurrentThread = [](JavaVM* vm, void** env, void*) -> jint {
+  });
+  answerBy(invocations.AttachCurrentThread, [](JavaVM* vm, void** env, void*) -> jint {
     *env = &reinterpret_cast<Machine*>(vm)->owner->environment.env;
     return 0;
-  };
-  invocations.DetachCurrentThread = [](JavaVM*) -> jint { return 0; };
+  });
+  answerBy(invocations.DetachCurrentThread, [](JavaVM*) -> jint { return 0; });
 }
 
 }  // namespace varnel_test

@@ -9,7 +9,7 @@
 #include "gles/driver/driver.h"
 #include "tests/support/native_client.h"
 
-extern "C" void glEGLImageTargetTexture2DOES(GLenum target, void* image);
+extern "C" void GL_APIENTRY glEGLImageTargetTexture2DOES(GLenum target, void* image);
 
 namespace {
 

@@ -44,7 +44,7 @@ void main() {
 }
 )";
 
-const unsigned char* driverWithoutEsShaders(unsigned) {
+const unsigned char* VARNEL_DRIVER_CALL driverWithoutEsShaders(unsigned) {
   return reinterpret_cast<const unsigned char*>("GL_ARB_multitexture");
 }
 
