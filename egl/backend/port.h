@@ -64,8 +64,8 @@ bool portBeginProbe(PortConnection* connection);
 void portEndProbe(PortConnection* connection);
 /// The display adapter's description; valid between begin and end of the probe.
 const char* portAdapterName(PortConnection* connection);
-/// True if there is an accelerated format for windows with four samples a pixel; valid between begin
-/// and end of the probe.
+/// True if there is an accelerated format for windows with four samples a pixel; valid between
+/// begin and end of the probe.
 bool portMultisamples(PortConnection* connection, bool doubleBuffer);
 /// A function of the desktop's OpenGL by name, core 1.1 names included; null if missing.
 void* portGetProcAddress(const char* name);

@@ -1,7 +1,6 @@
 #include "egl/backend/glx/glx_port.h"
 
-PortContext* portCreateContext(PortConnection* connection, PortFormat format,
-                               PortDrawable*) {
+PortContext* portCreateContext(PortConnection* connection, PortFormat format, PortDrawable*) {
   GLXFBConfig config = configOf(*connection, format);
   if (!config) {
     return nullptr;
@@ -77,8 +76,7 @@ PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWin
   }
   XErrorTrap trap(*connection);
   // A GLXWindow and not the bare window: its back buffer stays while another one is current.
-  const GLXWindow id =
-      glXCreateWindow(connection->display, config, window, nullptr);
+  const GLXWindow id = glXCreateWindow(connection->display, config, window, nullptr);
   if (trap.failed() || !id) {
     return nullptr;
   }
@@ -126,8 +124,7 @@ PortDrawable* portCreatePbuffer(PortConnection* connection, PortFormat format,
                             GLX_PRESERVED_CONTENTS,
                             True,
                             0};
-  const GLXPbuffer id =
-      glXCreatePbuffer(connection->display, config, attributes);
+  const GLXPbuffer id = glXCreatePbuffer(connection->display, config, attributes);
   if (trap.failed() || !id) {
     return nullptr;
   }

@@ -76,8 +76,7 @@ std::vector<std::size_t> choosePixelFormats(const std::vector<PixelFormat>& form
   return found;
 }
 
-int nearestPixelFormat(const std::vector<PixelFormat>& formats,
-                       const PixelFormatRequest& request) {
+int nearestPixelFormat(const std::vector<PixelFormat>& formats, const PixelFormatRequest& request) {
   int best = -1;
   int bestCost = 0;
   for (std::size_t i = 0; i < formats.size(); ++i) {

@@ -37,7 +37,6 @@ std::vector<std::size_t> choosePixelFormats(const std::vector<PixelFormat>& form
 
 /// Index of the format that comes nearest to the request although it may not meet it: only the kind
 /// of drawable and the visual are demanded. -1 if there is none.
-int nearestPixelFormat(const std::vector<PixelFormat>& formats,
-                       const PixelFormatRequest& request);
+int nearestPixelFormat(const std::vector<PixelFormat>& formats, const PixelFormatRequest& request);
 
 #endif

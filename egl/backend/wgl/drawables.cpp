@@ -36,8 +36,7 @@ HWND windowOf(PortNativeWindow window) {
 
 }  // namespace
 
-PortContext* portCreateContext(PortConnection* connection, PortFormat,
-                               PortDrawable* drawable) {
+PortContext* portCreateContext(PortConnection* connection, PortFormat, PortDrawable* drawable) {
   if (!connection->shareRoot) {
     connection->shareRoot = wglCreateContext(drawable->device);
   }

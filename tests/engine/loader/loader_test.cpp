@@ -343,7 +343,9 @@ TEST(Loader, AMissingFileIsATextOfItsKind) {
 }
 
 // "Bücher 日本", written so that the source needs no encoding.
-const std::string foreignName = "B\xC3\xBC" "cher \xE6\x97\xA5\xE6\x9C\xAC";
+const std::string foreignName =
+    "B\xC3\xBC"
+    "cher \xE6\x97\xA5\xE6\x9C\xAC";
 
 std::string fileOf(const TemporaryFolder& folder, const std::string& name,
                    const std::string& bytes) {

@@ -31,7 +31,7 @@ using Indexes = std::vector<std::size_t>;
 
 TEST(PixelFormat, SizesAreMinimaAndTheFewestBitsBeyondThemComeFirst) {
   const std::vector<PixelFormat> formats = {format(8, 8, 32, 8), format(8, 0, 24, 8),
-                                                format(8, 8, 24, 8), format(10, 8, 24, 8)};
+                                            format(8, 8, 24, 8), format(10, 8, 24, 8)};
   EXPECT_EQ(choosePixelFormats(formats, request8888(), 16), (Indexes{2, 0, 3}));
   EXPECT_EQ(choosePixelFormats(formats, request8888(), 1), (Indexes{2}));
 }
