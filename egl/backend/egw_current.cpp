@@ -239,9 +239,7 @@ EGLBoolean egwWaitNative(EGLint engine) {
   if (engine != EGL_CORE_NATIVE_ENGINE) {
     return egwFail(EGL_BAD_PARAMETER);
   }
-  if (egw.currentDisplay) {
-    portFlushNative(egw.currentDisplay->connection);
-  }
+  portFlushNative(egw.currentDisplay ? egw.currentDisplay->connection : nullptr);
   return egwCopyIn() ? egwSucceed() : egwFail(EGL_BAD_CURRENT_SURFACE);
 }
 

@@ -304,7 +304,9 @@ EGLBoolean egwSurfaceAttrib(EGLDisplay handle, EGLSurface surfaceHandle, EGLint 
   if (attribute != EGL_MIPMAP_LEVEL) {
     return egwFail(EGL_BAD_ATTRIBUTE);
   }
-  if (surface->type == EGW_PBUFFER && surface->drawable && portBindsTextures(display->connection) &&
+  const bool isTexture = surface->type == EGW_PBUFFER && surface->textureFormat != EGL_NO_TEXTURE &&
+                         surface->textureTarget != EGL_NO_TEXTURE;
+  if (isTexture && surface->drawable && portBindsTextures(display->connection) &&
       !portSetMipmapLevel(display->connection, surface->drawable, value)) {
     return egwFail(EGL_BAD_PARAMETER);
   }

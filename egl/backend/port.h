@@ -49,7 +49,7 @@ struct PortPbufferRequest {
 // --- Connections -------------------------------------------------------------------------------
 
 /// The connection for a native display, 0 for the default one; opened at the first call and kept.
-/// Null where there is none. The port trusts a native display other than 0.
+/// Null where there is none. A native display other than 0 is trusted where it cannot be tested.
 PortConnection* portConnect(PortNativeDisplay native);
 /// Frees what the port made on the connection. The default one stays open for the next use; of any
 /// other the native display is forgotten.
@@ -82,8 +82,7 @@ PortFormat portPlainWindowFormat(PortConnection* connection, PortNativeWindow wi
 /// The first accelerated format for pbuffers that meets the request; 0 where there is none.
 PortFormat portChoosePbufferFormat(PortConnection* connection, const PortFormatRequest& request);
 /// A context for the drawable, which is of the format, sharing objects with all others of the
-/// connection.
-/// Null on failure. Freed by portDestroyContext.
+/// connection that the driver lets it share with. Null on failure. Freed by portDestroyContext.
 PortContext* portCreateContext(PortConnection* connection, PortFormat format,
                                PortDrawable* drawable);
 void portDestroyContext(PortConnection* connection, PortContext* context);
@@ -94,6 +93,7 @@ bool portMakeCurrent(PortConnection* connection, PortDrawable* draw, PortDrawabl
 // --- Windows -----------------------------------------------------------------------------------
 
 /// Size of the window's client area; false if there is no such window or its user has closed it.
+/// A window that is iconic for now may leave a size that is above 0 as it was.
 bool portWindowSize(PortConnection* connection, PortNativeWindow window, int* width, int* height);
 /// The drawing side of a window, with the format set on it. Null on failure. Freed by
 /// portDestroyDrawable, which leaves the window itself alone.
@@ -126,7 +126,7 @@ bool portReadPixmap(PortConnection* connection, PortNativePixmap pixmap,
                     const PortPixmapLayout& layout, void* rows);
 bool portWritePixmap(PortConnection* connection, PortNativePixmap pixmap,
                      const PortPixmapLayout& layout, const void* rows);
-/// Waits until the window system's own drawing is done.
+/// Waits until the window system's own drawing is done; of a connection, where there is one.
 void portFlushNative(PortConnection* connection);
 
 #endif

@@ -16,8 +16,9 @@ const char* nativeWindowError();
 /// user closes it, it disappears and counts as gone from then on: its surfaces are reported as bad.
 EGLNativeWindowType createNativeWindow();
 
-/// Creates and shows a child window that fills the client area of `parent`, a window made by
-/// createNativeWindow. 0 on failure, with the text set.
+/// Creates and shows a child window that fills the client area of `parent`, which may be another
+/// program's; its size follows when messages are pumped. 0 on failure, with the text set: "Bad Child
+/// class", or "Child: " and the system's reason.
 EGLNativeWindowType createNativeChildWindow(EGLNativeWindowType parent);
 
 /// Makes the window ready to be drawn to and gives its device context's handle, which stays valid

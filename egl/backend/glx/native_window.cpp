@@ -92,9 +92,9 @@ void setWindowProperties(Display* display, Window window) {
   XSetWMProtocols(display, window, &deleteWindow, 1);
 }
 
-void resizeChildren(PortConnection& connection, const NativeWindow& parent, int width, int height) {
+void resizeChildren(PortConnection& connection, Window parent, int width, int height) {
   for (auto& child : windows()) {
-    if (child->parent == parent.window && !child->destroyed && width > 0 && height > 0) {
+    if (child->parent == parent && !child->destroyed && width > 0 && height > 0) {
       XResizeWindow(connection.display, child->window, static_cast<unsigned>(width),
                     static_cast<unsigned>(height));
     }
@@ -111,6 +111,11 @@ void close(NativeWindow& window) {
 }
 
 void dispatch(PortConnection& connection, const XEvent& event) {
+  if (event.type == ConfigureNotify) {
+    resizeChildren(connection, event.xconfigure.window, event.xconfigure.width,
+                   event.xconfigure.height);
+    return;
+  }
   NativeWindow* window = findWindow(event.xany.window);
   if (!window) {
     return;
@@ -128,9 +133,6 @@ void dispatch(PortConnection& connection, const XEvent& event) {
     case DestroyNotify:
       close(*window);
       window->destroyed = true;
-      break;
-    case ConfigureNotify:
-      resizeChildren(connection, *window, event.xconfigure.width, event.xconfigure.height);
       break;
     default:
       break;
@@ -189,7 +191,7 @@ EGLNativeWindowType createNativeWindow() {
 EGLNativeWindowType createNativeChildWindow(EGLNativeWindowType parent) {
   PortConnection* connection = liveConnection();
   const NativeWindow* known = findWindow(parent);
-  if (!connection || !known || known->closed) {
+  if (!connection || (known && known->closed)) {
     setError("Bad Child class");
     return 0;
   }
@@ -199,6 +201,9 @@ EGLNativeWindowType createNativeChildWindow(EGLNativeWindowType parent) {
   if (!XGetWindowAttributes(display, parent, &size)) {
     setChildError(*connection, trap.errorCode());
     return 0;
+  }
+  if (!known) {
+    XSelectInput(display, parent, StructureNotifyMask);  // tells its size
   }
   auto made = std::make_unique<NativeWindow>();
   made->parent = parent;

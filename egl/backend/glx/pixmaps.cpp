@@ -177,7 +177,7 @@ bool portWritePixmap(PortConnection* connection, PortNativePixmap pixmap,
 }
 
 void portFlushNative(PortConnection* connection) {
-  if (!connection->dead) {
+  if (connection && !connection->dead) {
     XErrorTrap trap(*connection);
   }
 }

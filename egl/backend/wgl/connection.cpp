@@ -33,10 +33,10 @@ PortConnection* portConnect(PortNativeDisplay native) {
 }
 
 void portDisconnect(PortConnection* connection) {
-  if (connection->shareRoot) {
-    wglDeleteContext(connection->shareRoot);
-    connection->shareRoot = nullptr;
+  for (const HGLRC root : connection->shareRoots) {
+    wglDeleteContext(root);
   }
+  connection->shareRoots.clear();
   if (!connection->display) {
     return;
   }
@@ -47,6 +47,14 @@ void portDisconnect(PortConnection* connection) {
       return;
     }
   }
+}
+
+HINSTANCE ownModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<LPCWSTR>(&ownModule), &module);
+  return module;
 }
 
 void* portGetProcAddress(const char* name) {

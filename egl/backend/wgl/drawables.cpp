@@ -1,5 +1,4 @@
-#include <memory>
-#include <vector>
+#include <new>
 
 #include "egl/backend/wgl/devices.h"
 
@@ -30,6 +29,26 @@ int textureFormatOf(int eglFormat) {
   }
 }
 
+/// Lets the context share the objects of the first root that it may share with, or of a new one. It
+/// stands alone where there is no memory for that.
+void share(PortConnection& connection, HDC device, HGLRC context) {
+  for (const HGLRC root : connection.shareRoots) {
+    if (wglShareLists(root, context)) {
+      return;
+    }
+  }
+  const HGLRC root = wglCreateContext(device);
+  if (!root || !wglShareLists(root, context)) {
+    wglDeleteContext(root);
+    return;
+  }
+  try {
+    connection.shareRoots.push_back(root);
+  } catch (const std::bad_alloc&) {
+    wglDeleteContext(root);
+  }
+}
+
 HWND windowOf(PortNativeWindow window) {
   return reinterpret_cast<HWND>(window);
 }
@@ -37,18 +56,16 @@ HWND windowOf(PortNativeWindow window) {
 }  // namespace
 
 PortContext* portCreateContext(PortConnection* connection, PortFormat, PortDrawable* drawable) {
-  if (!connection->shareRoot) {
-    connection->shareRoot = wglCreateContext(drawable->device);
-  }
-  const HGLRC context = wglCreateContext(drawable->device);
-  if (!context) {
+  const HGLRC context = wglCreateContext(drawable->device());
+  auto* made = context ? new (std::nothrow) PortContext{context} : nullptr;
+  if (!made) {
+    if (context) {
+      wglDeleteContext(context);
+    }
     return nullptr;
   }
-  if (connection->shareRoot) {
-    // Drivers refuse to share between formats that differ too much: such a context stands alone.
-    wglShareLists(connection->shareRoot, context);
-  }
-  return new PortContext{context};
+  share(*connection, drawable->device(), context);
+  return made;
 }
 
 void portDestroyContext(PortConnection*, PortContext* context) {
@@ -65,10 +82,10 @@ bool portMakeCurrent(PortConnection*, PortDrawable* draw, PortDrawable* read,
     return wglMakeCurrent(nullptr, nullptr) != FALSE;
   }
   if (draw != read && wglExtensions.wglMakeContextCurrentARB) {
-    return wglExtensions.wglMakeContextCurrentARB(draw->device, read->device, context->context) !=
-           FALSE;
+    return wglExtensions.wglMakeContextCurrentARB(draw->device(), read->device(),
+                                                  context->context) != FALSE;
   }
-  return wglMakeCurrent(draw->device, context->context) != FALSE;
+  return wglMakeCurrent(draw->device(), context->context) != FALSE;
 }
 
 bool portWindowSize(PortConnection*, PortNativeWindow window, int* width, int* height) {
@@ -77,6 +94,9 @@ bool portWindowSize(PortConnection*, PortNativeWindow window, int* width, int* h
       !GetClientRect(windowOf(window), &client)) {
     return false;
   }
+  if (IsIconic(windowOf(window)) && *width > 0 && *height > 0) {
+    return true;  // it has no client area until it is restored
+  }
   *width = client.right - client.left;
   *height = client.bottom - client.top;
   return true;
@@ -84,22 +104,22 @@ bool portWindowSize(PortConnection*, PortNativeWindow window, int* width, int* h
 
 PortDrawable* portCreateWindowDrawable(PortConnection* connection, PortNativeWindow window,
                                        PortFormat format) {
-  auto drawable = std::make_unique<PortDrawable>();
+  auto* drawable = new (std::nothrow) PortDrawable();
+  if (!drawable) {
+    return nullptr;
+  }
   drawable->window = windowOf(window);
   drawable->ownsDevice = connection->display == nullptr;
-  drawable->device = drawable->ownsDevice ? GetDC(drawable->window) : connection->display;
-  if (!drawable->device) {
+  drawable->deviceContext = drawable->ownsDevice ? GetDC(drawable->window) : connection->display;
+  if (!drawable->deviceContext || !setFormat(drawable->deviceContext, format)) {
+    portDestroyDrawable(connection, drawable);
     return nullptr;
   }
-  if (!setFormat(drawable->device, format)) {
-    portDestroyDrawable(connection, drawable.release());
-    return nullptr;
-  }
-  return drawable.release();
+  return drawable;
 }
 
 bool portSwapBuffers(PortConnection*, PortDrawable* drawable) {
-  return SwapBuffers(drawable->device) != FALSE;
+  return SwapBuffers(drawable->deviceContext) != FALSE;
 }
 
 bool portSwapInterval(PortConnection*, PortDrawable*, int interval) {
@@ -109,31 +129,35 @@ bool portSwapInterval(PortConnection*, PortDrawable*, int interval) {
 PortDrawable* portCreatePbuffer(PortConnection* connection, PortFormat format,
                                 const PortPbufferRequest& request) {
   const PbufferDevice device(*connection);
-  if (!device.get() || !wglExtensions.wglCreatePbufferARB) {
+  const WglExtensions& wgl = wglExtensions;
+  if (!device.get() || !wgl.wglCreatePbufferARB || !wgl.wglGetPbufferDCARB ||
+      !wgl.wglReleasePbufferDCARB || !wgl.wglDestroyPbufferARB) {
     return nullptr;
   }
-  std::vector<int> attributes;
+  int attributes[8] = {};
+  int* next = attributes;
   if (request.textureFormat != 0 && request.textureTarget != 0 && portBindsTextures(connection)) {
-    attributes = {
-        WGL_TEXTURE_FORMAT_ARB, textureFormatOf(request.textureFormat), WGL_TEXTURE_TARGET_ARB,
-        request.textureTarget == EGL_TEXTURE_2D ? WGL_TEXTURE_2D_ARB : WGL_NO_TEXTURE_ARB};
+    *next++ = WGL_TEXTURE_FORMAT_ARB;
+    *next++ = textureFormatOf(request.textureFormat);
+    *next++ = WGL_TEXTURE_TARGET_ARB;
+    *next++ = request.textureTarget == EGL_TEXTURE_2D ? WGL_TEXTURE_2D_ARB : WGL_NO_TEXTURE_ARB;
     if (request.mipmap) {
-      attributes.insert(attributes.end(), {WGL_MIPMAP_TEXTURE_ARB, 1});
+      *next++ = WGL_MIPMAP_TEXTURE_ARB;
+      *next++ = 1;
     }
   }
-  attributes.push_back(0);
-  auto drawable = std::make_unique<PortDrawable>();
-  drawable->pbuffer = wglExtensions.wglCreatePbufferARB(
-      device.get(), static_cast<int>(format), request.width, request.height, attributes.data());
-  if (!drawable->pbuffer) {
+  auto* drawable = new (std::nothrow) PortDrawable();
+  if (!drawable) {
     return nullptr;
   }
-  drawable->device = wglExtensions.wglGetPbufferDCARB(drawable->pbuffer);
-  if (!drawable->device) {
-    portDestroyDrawable(connection, drawable.release());
+  drawable->pbuffer = wgl.wglCreatePbufferARB(device.get(), static_cast<int>(format), request.width,
+                                              request.height, attributes);
+  drawable->pbufferDC = drawable->pbuffer ? wgl.wglGetPbufferDCARB(drawable->pbuffer) : nullptr;
+  if (!drawable->pbufferDC) {
+    portDestroyDrawable(connection, drawable);
     return nullptr;
   }
-  return drawable.release();
+  return drawable;
 }
 
 void portDestroyDrawable(PortConnection*, PortDrawable* drawable) {
@@ -141,12 +165,12 @@ void portDestroyDrawable(PortConnection*, PortDrawable* drawable) {
     return;
   }
   if (drawable->pbuffer) {
-    if (drawable->device) {
-      wglExtensions.wglReleasePbufferDCARB(drawable->pbuffer, drawable->device);
+    if (drawable->pbufferDC) {
+      wglExtensions.wglReleasePbufferDCARB(drawable->pbuffer, drawable->pbufferDC);
     }
     wglExtensions.wglDestroyPbufferARB(drawable->pbuffer);
-  } else if (drawable->ownsDevice) {
-    ReleaseDC(drawable->window, drawable->device);
+  } else if (drawable->ownsDevice && drawable->deviceContext) {
+    ReleaseDC(drawable->window, drawable->deviceContext);
   }
   delete drawable;
 }

@@ -1,63 +1,59 @@
-#include <vector>
-
 #include "egl/backend/wgl/devices.h"
 
 namespace {
 
-constexpr UINT formatLimit = 16;
-
-/// The first format of the device that has the attributes; 0 if there is none.
-PortFormat chooseFirst(HDC device, std::vector<int> attributes) {
-  if (!device || !wglExtensions.wglChoosePixelFormatARB) {
-    return 0;
+/// Pairs of a name and a value, ended by a 0.
+class Attributes {
+ public:
+  void add(int name, int value) {
+    list[count++] = name;
+    list[count++] = value;
   }
-  attributes.push_back(0);
-  int formats[formatLimit] = {};
+  void addSamples(const PortFormatRequest& request) {
+    if (request.sampleBuffers > 0) {
+      add(WGL_SAMPLE_BUFFERS_ARB, request.sampleBuffers);
+      add(WGL_SAMPLES_ARB, request.samples);
+    }
+  }
+  const int* get() const { return list; }
+
+ private:
+  static constexpr int room = 16;
+  int list[2 * room + 1] = {};
+  int count = 0;
+};
+
+/// The first of up to `limit` formats of the device that have the attributes; 0 if there is none.
+PortFormat chooseFirst(HDC device, const Attributes& attributes, UINT limit) {
+  constexpr UINT room = 16;
+  int formats[room] = {};
   UINT count = 0;
-  if (!wglExtensions.wglChoosePixelFormatARB(device, attributes.data(), nullptr, formatLimit,
-                                             formats, &count) ||
+  if (!device || !wglExtensions.wglChoosePixelFormatARB ||
+      !wglExtensions.wglChoosePixelFormatARB(device, attributes.get(), nullptr,
+                                             limit < room ? limit : room, formats, &count) ||
       count == 0) {
     return 0;
   }
   return static_cast<PortFormat>(formats[0]);
 }
 
-std::vector<int> attributesOf(const PortFormatRequest& request, int drawTo) {
-  return {WGL_SUPPORT_OPENGL_ARB,
-          1,
-          drawTo,
-          1,
-          WGL_PIXEL_TYPE_ARB,
-          WGL_TYPE_RGBA_ARB,
-          WGL_RED_BITS_ARB,
-          request.red,
-          WGL_GREEN_BITS_ARB,
-          request.green,
-          WGL_BLUE_BITS_ARB,
-          request.blue,
-          WGL_ALPHA_BITS_ARB,
-          request.alpha,
-          WGL_DEPTH_BITS_ARB,
-          request.depth,
-          WGL_STENCIL_BITS_ARB,
-          request.stencil,
-          WGL_ACCELERATION_ARB,
-          WGL_FULL_ACCELERATION_ARB,
-          WGL_DOUBLE_BUFFER_ARB,
-          request.doubleBuffer};
+Attributes attributesOf(const PortFormatRequest& request, int drawTo) {
+  Attributes attributes;
+  attributes.add(WGL_SUPPORT_OPENGL_ARB, 1);
+  attributes.add(drawTo, 1);
+  attributes.add(WGL_PIXEL_TYPE_ARB, WGL_TYPE_RGBA_ARB);
+  attributes.add(WGL_RED_BITS_ARB, request.red);
+  attributes.add(WGL_GREEN_BITS_ARB, request.green);
+  attributes.add(WGL_BLUE_BITS_ARB, request.blue);
+  attributes.add(WGL_ALPHA_BITS_ARB, request.alpha);
+  attributes.add(WGL_DEPTH_BITS_ARB, request.depth);
+  attributes.add(WGL_STENCIL_BITS_ARB, request.stencil);
+  attributes.add(WGL_ACCELERATION_ARB, WGL_FULL_ACCELERATION_ARB);
+  attributes.add(WGL_DOUBLE_BUFFER_ARB, request.doubleBuffer);
+  return attributes;
 }
 
-void append(std::vector<int>& attributes, int name, int value) {
-  attributes.push_back(name);
-  attributes.push_back(value);
-}
-
-void appendSamples(std::vector<int>& attributes, const PortFormatRequest& request) {
-  if (request.sampleBuffers > 0) {
-    append(attributes, WGL_SAMPLE_BUFFERS_ARB, request.sampleBuffers);
-    append(attributes, WGL_SAMPLES_ARB, request.samples);
-  }
-}
+constexpr UINT formatLimit = 16;
 
 }  // namespace
 
@@ -75,18 +71,22 @@ PIXELFORMATDESCRIPTOR plainDescriptor(HDC device, int depthBits, int stencilBits
 }
 
 bool portMultisamples(PortConnection* connection, bool doubleBuffer) {
-  return chooseFirst(connection->probeContextDevice,
-                     {WGL_SUPPORT_OPENGL_ARB, 1, WGL_DRAW_TO_WINDOW_ARB, 1, WGL_ACCELERATION_ARB,
-                      WGL_FULL_ACCELERATION_ARB, WGL_DOUBLE_BUFFER_ARB, doubleBuffer,
-                      WGL_SAMPLE_BUFFERS_ARB, 1, WGL_SAMPLES_ARB, 4}) != 0;
+  Attributes attributes;
+  attributes.add(WGL_SUPPORT_OPENGL_ARB, 1);
+  attributes.add(WGL_DRAW_TO_WINDOW_ARB, 1);
+  attributes.add(WGL_ACCELERATION_ARB, WGL_FULL_ACCELERATION_ARB);
+  attributes.add(WGL_DOUBLE_BUFFER_ARB, doubleBuffer);
+  attributes.add(WGL_SAMPLE_BUFFERS_ARB, 1);
+  attributes.add(WGL_SAMPLES_ARB, 4);
+  return chooseFirst(connection->probeContextDevice, attributes, 1) != 0;
 }
 
 PortFormat portChooseWindowFormat(PortConnection* connection, PortNativeWindow window,
                                   const PortFormatRequest& request) {
   const WindowDevice device(*connection, reinterpret_cast<HWND>(window));
-  std::vector<int> attributes = attributesOf(request, WGL_DRAW_TO_WINDOW_ARB);
-  appendSamples(attributes, request);
-  return chooseFirst(device.get(), attributes);
+  Attributes attributes = attributesOf(request, WGL_DRAW_TO_WINDOW_ARB);
+  attributes.addSamples(request);
+  return chooseFirst(device.get(), attributes, formatLimit);
 }
 
 PortFormat portPlainWindowFormat(PortConnection* connection, PortNativeWindow window,
@@ -106,14 +106,14 @@ PortFormat portPlainWindowFormat(PortConnection* connection, PortNativeWindow wi
 
 PortFormat portChoosePbufferFormat(PortConnection* connection, const PortFormatRequest& request) {
   const PbufferDevice device(*connection);
-  std::vector<int> attributes = attributesOf(request, WGL_DRAW_TO_PBUFFER_ARB);
+  Attributes attributes = attributesOf(request, WGL_DRAW_TO_PBUFFER_ARB);
   if (portBindsTextures(connection)) {
     if (request.bindsRgb) {
-      append(attributes, WGL_BIND_TO_TEXTURE_RGB_ARB, 1);
+      attributes.add(WGL_BIND_TO_TEXTURE_RGB_ARB, 1);
     } else if (request.bindsRgba) {
-      append(attributes, WGL_BIND_TO_TEXTURE_RGBA_ARB, 1);
+      attributes.add(WGL_BIND_TO_TEXTURE_RGBA_ARB, 1);
     }
   }
-  appendSamples(attributes, request);
-  return chooseFirst(device.get(), attributes);
+  attributes.addSamples(request);
+  return chooseFirst(device.get(), attributes, formatLimit);
 }

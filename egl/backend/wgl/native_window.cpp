@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdio>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "egl/backend/wgl/wgl_port.h"
@@ -23,7 +24,7 @@ struct NativeWindow {
   bool closed = false;    ///< by its user or by another program
 };
 
-char errorText[256] = "Never called init";
+char errorText[1024] = "Never called init";
 
 std::vector<std::unique_ptr<NativeWindow>>& windows() {
   // Never destroyed: the windows live to process end.
@@ -48,11 +49,23 @@ void setError(const char* text) {
   std::snprintf(errorText, sizeof errorText, "%s", text);
 }
 
-void setChildError() {
-  char reason[200] = "";
-  FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                 GetLastError(), 0, reason, sizeof reason, nullptr);
+void setChildError(DWORD code) {
+  wchar_t text[256] = L"";
+  FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text,
+                 256, nullptr);
+  char reason[3 * 256] = "";
+  WideCharToMultiByte(CP_UTF8, 0, text, -1, reason, sizeof reason, nullptr, nullptr);
   std::snprintf(errorText, sizeof errorText, "Child: %s", reason);
+}
+
+void forget(HWND window) {
+  auto& list = windows();
+  for (auto at = list.begin(); at != list.end(); ++at) {
+    if ((*at)->window == window) {
+      list.erase(at);
+      return;
+    }
+  }
 }
 
 void close(HWND window) {
@@ -78,9 +91,10 @@ LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM word, LPARAM va
       close(window);
       ShowWindow(window, SW_HIDE);
       return 0;
-    case WM_DESTROY:
-      close(window);
-      return 0;
+    case WM_NCDESTROY:
+      // The system may give its handle to another window.
+      forget(window);
+      return DefWindowProcW(window, message, word, value);
     case WM_SIZE:
       resizeChildren(window, LOWORD(value), HIWORD(value));
       return 0;
@@ -89,21 +103,35 @@ LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM word, LPARAM va
   }
 }
 
+/// Keeps this module loaded: windows may live to process end, and their procedure with them.
+void pinOwnModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                     reinterpret_cast<LPCWSTR>(&handleMessage), &module);
+}
+
 bool registerClass(const wchar_t* name) {
+  pinOwnModule();
   WNDCLASSW made = {};
   made.style = CS_OWNDC;
   made.lpfnWndProc = handleMessage;
-  made.hInstance = GetModuleHandleW(nullptr);
+  made.hInstance = ownModule();
   made.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
   made.lpszClassName = name;
   return RegisterClassW(&made) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }
 
+/// Enters a new window in the list; destroyed where there is no memory for that.
 EGLNativeWindowType keep(HWND window, HWND parent) {
-  auto made = std::make_unique<NativeWindow>();
-  made->window = window;
-  made->parent = parent;
-  windows().push_back(std::move(made));
+  try {
+    auto made = std::make_unique<NativeWindow>();
+    made->window = window;
+    made->parent = parent;
+    windows().push_back(std::move(made));
+  } catch (const std::bad_alloc&) {
+    DestroyWindow(window);
+    return 0;
+  }
   return std::bit_cast<EGLNativeWindowType>(window);
 }
 
@@ -127,72 +155,88 @@ EGLNativeWindowType createNativeWindow() {
   AdjustWindowRect(&outer, mainStyle, FALSE);
   const HWND window = CreateWindowExW(
       0, mainClass, L"Sample", mainStyle, CW_USEDEFAULT, CW_USEDEFAULT, outer.right - outer.left,
-      outer.bottom - outer.top, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+      outer.bottom - outer.top, nullptr, nullptr, ownModule(), nullptr);
   if (!window) {
     setError("Bad class");
     return 0;
   }
   ShowWindow(window, SW_SHOW);
+  if (!IsWindowVisible(window)) {
+    ShowWindow(window, SW_SHOW);  // the first one of a process obeys whoever started that
+  }
   return keep(window, nullptr);
 }
 
 EGLNativeWindowType createNativeChildWindow(EGLNativeWindowType parent) {
-  const NativeWindow* known = findWindow(handleOf(parent));
-  if (!known || known->closed || !registerClass(childClass)) {
+  const HWND outer = handleOf(parent);
+  if (isClosedNativeWindow(outer) || !registerClass(childClass)) {
     setError("Bad Child class");
     return 0;
   }
   RECT client = {};
-  GetClientRect(known->window, &client);
-  const HWND window =
-      CreateWindowExW(0, childClass, L"", WS_CHILD | WS_VISIBLE, 0, 0, client.right, client.bottom,
-                      known->window, nullptr, GetModuleHandleW(nullptr), nullptr);
-  if (!window) {
-    setChildError();
+  if (!GetClientRect(outer, &client)) {
+    setChildError(GetLastError());
     return 0;
   }
-  return keep(window, known->window);
+  const HWND window = CreateWindowExW(0, childClass, L"", WS_CHILD | WS_VISIBLE, 0, 0, client.right,
+                                      client.bottom, outer, nullptr, ownModule(), nullptr);
+  if (!window) {
+    setChildError(GetLastError());
+    return 0;
+  }
+  return keep(window, outer);
 }
 
 bool realizeNativeWindow(EGLNativeWindowType window, std::uintptr_t* deviceContext) {
   NativeWindow* known = findWindow(handleOf(window));
-  if (!known || known->closed) {
+  if (known && !known->closed && !known->device) {
+    known->device = GetDC(known->window);
+  }
+  if (!known || known->closed || !known->device) {
     setError("Bad class");
     return false;
   }
-  if (!known->device) {
-    known->device = GetDC(known->window);
-  }
   *deviceContext = reinterpret_cast<std::uintptr_t>(known->device);
-  return known->device != nullptr;
+  return true;
 }
 
 void pumpNativeMessages(std::uintptr_t handle) {
   HWND target = nullptr;
+  HWND parent = nullptr;
   for (auto& window : windows()) {
     if (reinterpret_cast<std::uintptr_t>(window->window) == handle ||
         (window->device && reinterpret_cast<std::uintptr_t>(window->device) == handle)) {
       target = window->window;
+      parent = window->parent;
     }
   }
   MSG message;
   while (target && PeekMessageW(&message, target, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      // It belongs to the thread's own loop, which any filter lets through.
+      PostQuitMessage(static_cast<int>(message.wParam));
+      break;
+    }
     DispatchMessageW(&message);
+  }
+  RECT outer = {};
+  RECT inner = {};
+  if (parent && GetClientRect(parent, &outer) && GetClientRect(target, &inner) &&
+      !EqualRect(&outer, &inner)) {
+    MoveWindow(target, 0, 0, outer.right, outer.bottom, TRUE);
   }
 }
 
 void destroyNativeWindow(EGLNativeWindowType window) {
   const HWND handle = handleOf(window);
-  auto& list = windows();
-  for (auto at = list.begin(); at != list.end(); ++at) {
-    if ((*at)->window == handle) {
-      close(handle);
-      if ((*at)->device) {
-        ReleaseDC(handle, (*at)->device);
-      }
-      list.erase(at);
-      DestroyWindow(handle);
-      return;
-    }
+  NativeWindow* known = findWindow(handle);
+  if (!known) {
+    return;
   }
+  close(handle);
+  if (known->device) {
+    ReleaseDC(handle, known->device);
+    known->device = nullptr;
+  }
+  DestroyWindow(handle);  // forgotten with its last message
 }

@@ -22,7 +22,8 @@ BitmapDescription describe(const PortPixmapLayout& layout) {
   description.header.biHeight = -layout.height;
   description.header.biPlanes = 1;
   description.header.biBitCount = static_cast<WORD>(layout.bitsPerPixel);
-  const bool masked = layout.redMask != 0 && layout.bitsPerPixel != 24;
+  // The other masks of the layouts are what this field means without any.
+  const bool masked = layout.bitsPerPixel == 16 && layout.redMask == 0xF800;
   description.header.biCompression = masked ? BI_BITFIELDS : BI_RGB;
   description.masks[0] = layout.redMask;
   description.masks[1] = layout.greenMask;
@@ -47,6 +48,32 @@ class ScreenDevice {
   HDC device;
 };
 
+constexpr DWORD fiveBitMasks[3] = {0x7C00, 0x03E0, 0x001F};
+
+/// What a device tells of a bitmap, with room for the longest palette.
+struct DeviceDescription {
+  BITMAPINFOHEADER header = {};
+  DWORD masks[256] = {};
+};
+
+/// The masks of a device's own bitmap of 16 bits a pixel, in `description` or constant.
+const DWORD* masksOf(HBITMAP bitmap, DeviceDescription& description) {
+  description.header.biSize = sizeof description.header;
+  auto* info = reinterpret_cast<BITMAPINFO*>(&description);
+  const ScreenDevice device;
+  // The first call tells the form, the second one its masks.
+  const bool told = GetDIBits(device.get(), bitmap, 0, 0, nullptr, info, DIB_RGB_COLORS) != 0 &&
+                    GetDIBits(device.get(), bitmap, 0, 0, nullptr, info, DIB_RGB_COLORS) != 0;
+  const bool masked = told && description.header.biBitCount == 16 &&
+                      description.header.biCompression == BI_BITFIELDS && description.masks[0] != 0;
+  return masked ? description.masks : fiveBitMasks;
+}
+
+/// Whether the form needs no palette, for which a description has no room.
+bool hasNoPalette(const PortPixmapLayout& layout) {
+  return layout.bitsPerPixel >= 16;
+}
+
 }  // namespace
 
 bool portPixmapLayout(PortConnection*, PortNativePixmap pixmap, PortPixmapLayout* layout) {
@@ -59,6 +86,7 @@ bool portPixmapLayout(PortConnection*, PortNativePixmap pixmap, PortPixmapLayout
   if (size < static_cast<int>(sizeof section.dsBm)) {
     return false;
   }
+  DeviceDescription description;
   layout->width = section.dsBm.bmWidth;
   layout->height = section.dsBm.bmHeight;
   layout->bitsPerPixel = section.dsBm.bmBitsPixel;
@@ -68,16 +96,22 @@ bool portPixmapLayout(PortConnection*, PortNativePixmap pixmap, PortPixmapLayout
     layout->greenMask = section.dsBitfields[1];
     layout->blueMask = section.dsBitfields[2];
   } else if (layout->bitsPerPixel == 16) {
-    // Without masks 16-bit pixels have five bits of each colour.
-    layout->redMask = 0x7C00;
-    layout->greenMask = 0x03E0;
-    layout->blueMask = 0x001F;
+    // Without masks 16-bit pixels have five bits of each colour; a device's own bitmap may have
+    // others, which only the device tells.
+    const bool ownedByDevice = !section.dsBm.bmBits;
+    const DWORD* masks = ownedByDevice ? masksOf(bitmap, description) : fiveBitMasks;
+    layout->redMask = masks[0];
+    layout->greenMask = masks[1];
+    layout->blueMask = masks[2];
   }
   return true;
 }
 
 bool portReadPixmap(PortConnection*, PortNativePixmap pixmap, const PortPixmapLayout& layout,
                     void* rows) {
+  if (!hasNoPalette(layout)) {
+    return false;
+  }
   BitmapDescription description = describe(layout);
   const ScreenDevice device;
   return GetDIBits(device.get(), bitmapOf(pixmap), 0, static_cast<UINT>(layout.height), rows,
@@ -86,6 +120,9 @@ bool portReadPixmap(PortConnection*, PortNativePixmap pixmap, const PortPixmapLa
 
 bool portWritePixmap(PortConnection*, PortNativePixmap pixmap, const PortPixmapLayout& layout,
                      const void* rows) {
+  if (!hasNoPalette(layout)) {
+    return false;
+  }
   BitmapDescription description = describe(layout);
   const ScreenDevice device;
   return SetDIBits(device.get(), bitmapOf(pixmap), 0, static_cast<UINT>(layout.height), rows,

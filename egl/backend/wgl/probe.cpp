@@ -1,3 +1,5 @@
+#include <cstring>
+
 #include "egl/backend/wgl/wgl_port.h"
 
 namespace {
@@ -9,49 +11,53 @@ constexpr int dummySide = 64;
 /// Hidden windows in existence; the class goes with the last one.
 int hiddenWindows = 0;
 
-HINSTANCE moduleHandle() {
-  return GetModuleHandleW(nullptr);
-}
-
 template <class Function>
 void find(Function& function, const char* name) {
   function = reinterpret_cast<Function>(portGetProcAddress(name));
 }
 
-void findExtensions() {
-  WglExtensions& wgl = wglExtensions;
-  find(wgl.wglGetExtensionsStringARB, "wglGetExtensionsStringARB");
-  find(wgl.wglGetPixelFormatAttribivARB, "wglGetPixelFormatAttribivARB");
-  find(wgl.wglGetPixelFormatAttribfvARB, "wglGetPixelFormatAttribfvARB");
-  find(wgl.wglChoosePixelFormatARB, "wglChoosePixelFormatARB");
-  find(wgl.wglCreatePbufferARB, "wglCreatePbufferARB");
-  find(wgl.wglGetPbufferDCARB, "wglGetPbufferDCARB");
-  find(wgl.wglReleasePbufferDCARB, "wglReleasePbufferDCARB");
-  find(wgl.wglDestroyPbufferARB, "wglDestroyPbufferARB");
-  find(wgl.wglQueryPbufferARB, "wglQueryPbufferARB");
-  find(wgl.wglBindTexImageARB, "wglBindTexImageARB");
-  find(wgl.wglReleaseTexImageARB, "wglReleaseTexImageARB");
-  find(wgl.wglSetPbufferAttribARB, "wglSetPbufferAttribARB");
-  find(wgl.wglMakeContextCurrentARB, "wglMakeContextCurrentARB");
-  find(wgl.wglSwapIntervalEXT, "wglSwapIntervalEXT");
-}
-
-std::string toUtf8(const wchar_t* text) {
-  const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-  if (size <= 1) {
-    return std::string();
+bool isListed(const char* list, const char* name) {
+  const std::size_t length = std::strlen(name);
+  for (const char* at = list; (at = std::strstr(at, name)) != nullptr; at += length) {
+    if ((at == list || at[-1] == ' ') && (at[length] == ' ' || at[length] == '\0')) {
+      return true;
+    }
   }
-  std::string narrow(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text, -1, narrow.data(), size, nullptr, nullptr);
-  narrow.pop_back();
-  return narrow;
+  return false;
 }
 
-std::string firstAdapter() {
-  DISPLAY_DEVICEW adapter = {};
-  adapter.cb = sizeof adapter;
-  return EnumDisplayDevicesW(nullptr, 0, &adapter, 0) ? toUtf8(adapter.DeviceString)
-                                                      : std::string();
+/// Looks the functions up. Some drivers give addresses for what they do not support, so that the
+/// list of extensions decides where there is one.
+void findExtensions(HDC device) {
+  WglExtensions& wgl = wglExtensions;
+  wgl = {};
+  find(wgl.wglGetExtensionsStringARB, "wglGetExtensionsStringARB");
+  const char* list =
+      wgl.wglGetExtensionsStringARB ? wgl.wglGetExtensionsStringARB(device) : nullptr;
+  const auto has = [list](const char* name) { return !list || isListed(list, name); };
+  if (has("WGL_ARB_pixel_format")) {
+    find(wgl.wglGetPixelFormatAttribivARB, "wglGetPixelFormatAttribivARB");
+    find(wgl.wglGetPixelFormatAttribfvARB, "wglGetPixelFormatAttribfvARB");
+    find(wgl.wglChoosePixelFormatARB, "wglChoosePixelFormatARB");
+  }
+  if (has("WGL_ARB_pbuffer")) {
+    find(wgl.wglCreatePbufferARB, "wglCreatePbufferARB");
+    find(wgl.wglGetPbufferDCARB, "wglGetPbufferDCARB");
+    find(wgl.wglReleasePbufferDCARB, "wglReleasePbufferDCARB");
+    find(wgl.wglDestroyPbufferARB, "wglDestroyPbufferARB");
+    find(wgl.wglQueryPbufferARB, "wglQueryPbufferARB");
+  }
+  if (has("WGL_ARB_render_texture")) {
+    find(wgl.wglBindTexImageARB, "wglBindTexImageARB");
+    find(wgl.wglReleaseTexImageARB, "wglReleaseTexImageARB");
+    find(wgl.wglSetPbufferAttribARB, "wglSetPbufferAttribARB");
+  }
+  if (has("WGL_ARB_make_current_read")) {
+    find(wgl.wglMakeContextCurrentARB, "wglMakeContextCurrentARB");
+  }
+  if (has("WGL_EXT_swap_control")) {
+    find(wgl.wglSwapIntervalEXT, "wglSwapIntervalEXT");
+  }
 }
 
 }  // namespace
@@ -61,18 +67,18 @@ HWND createHiddenWindow() {
     WNDCLASSW dummy = {};
     dummy.style = CS_OWNDC;
     dummy.lpfnWndProc = DefWindowProcW;
-    dummy.hInstance = moduleHandle();
+    dummy.hInstance = ownModule();
     dummy.lpszClassName = dummyClass;
     if (!RegisterClassW(&dummy) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS) {
       return nullptr;
     }
   }
   const HWND window = CreateWindowExW(0, dummyClass, dummyTitle, WS_POPUP, 0, 0, dummySide,
-                                      dummySide, nullptr, nullptr, moduleHandle(), nullptr);
+                                      dummySide, nullptr, nullptr, ownModule(), nullptr);
   if (window) {
     ++hiddenWindows;
   } else if (hiddenWindows == 0) {
-    UnregisterClassW(dummyClass, moduleHandle());
+    UnregisterClassW(dummyClass, ownModule());
   }
   return window;
 }
@@ -84,7 +90,7 @@ void destroyHiddenWindow(HWND window) {
   DestroyWindow(window);
   --hiddenWindows;
   if (hiddenWindows == 0) {
-    UnregisterClassW(dummyClass, moduleHandle());
+    UnregisterClassW(dummyClass, ownModule());
   }
 }
 
@@ -106,8 +112,14 @@ bool portBeginProbe(PortConnection* connection) {
     portEndProbe(connection);
     return false;
   }
-  findExtensions();
-  connection->adapterName = firstAdapter();
+  findExtensions(device);
+  DISPLAY_DEVICEW adapter = {};
+  adapter.cb = sizeof adapter;
+  connection->adapterName[0] = '\0';
+  if (EnumDisplayDevicesW(nullptr, 0, &adapter, 0)) {
+    WideCharToMultiByte(CP_UTF8, 0, adapter.DeviceString, -1, connection->adapterName,
+                        sizeof connection->adapterName, nullptr, nullptr);
+  }
   return true;
 }
 
@@ -126,5 +138,5 @@ void portEndProbe(PortConnection* connection) {
 }
 
 const char* portAdapterName(PortConnection* connection) {
-  return connection->adapterName.c_str();
+  return connection->adapterName;
 }

@@ -1,7 +1,7 @@
 #ifndef VARNEL_EGL_BACKEND_WGL_WGL_PORT_H
 #define VARNEL_EGL_BACKEND_WGL_WGL_PORT_H
 
-#include <string>
+#include <vector>
 
 #include "egl/backend/port.h"
 
@@ -14,12 +14,14 @@
 struct PortConnection {
   HDC display = nullptr;  ///< null for the default display, whose windows have their own
 
-  HGLRC shareRoot = nullptr;  ///< never current; all contexts share its objects
+  /// Contexts that are never current, and whose objects the others share: drivers may refuse to
+  /// share between formats that differ, and then there is one root for each kind.
+  std::vector<HGLRC> shareRoots;
 
   HWND probeWindow = nullptr;
   HDC probeContextDevice = nullptr;
   HGLRC probeContext = nullptr;
-  std::string adapterName;
+  char adapterName[3 * 128] = "";
 };
 
 struct PortContext {
@@ -27,13 +29,18 @@ struct PortContext {
 };
 
 struct PortDrawable {
-  HDC device = nullptr;
-  HWND window = nullptr;  ///< null for a pbuffer
+  HWND window = nullptr;        ///< null for a pbuffer
+  HDC deviceContext = nullptr;  ///< the window's
   bool ownsDevice = false;
   HPBUFFERARB pbuffer = nullptr;
+  HDC pbufferDC = nullptr;
+
+  /// The device to draw on.
+  HDC device() const { return pbuffer ? pbufferDC : deviceContext; }
 };
 
-/// The functions of WGL's extensions, found while the probe's context is current. Any may be null.
+/// The functions of WGL's extensions, found while the probe's context is current. Any
+/// may be null.
 struct WglExtensions {
   PFNWGLGETEXTENSIONSSTRINGARBPROC wglGetExtensionsStringARB = nullptr;
   PFNWGLGETPIXELFORMATATTRIBIVARBPROC wglGetPixelFormatAttribivARB = nullptr;
@@ -52,6 +59,10 @@ struct WglExtensions {
 };
 
 extern WglExtensions wglExtensions;
+
+/// The DLL or program that this code stands in. Window classes are registered for it, so that none
+/// of an application's can be taken for them.
+HINSTANCE ownModule();
 
 /// A plain descriptor: double buffer, draw to window, support OpenGL, RGBA, 32 colour bits or what
 /// the device has, and the given depth and stencil bits.

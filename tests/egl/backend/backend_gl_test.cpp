@@ -383,6 +383,12 @@ TEST_F(Backend, OnlyTheMipmapLevelIsASurfaceAttribute) {
   EXPECT_EQ(query(surface, EGL_MIPMAP_TEXTURE), 1);
 }
 
+TEST_F(Backend, TheMipmapLevelOfAPbufferThatIsNoTextureIsKeptAndMeansNothing) {
+  EGLSurface surface = pbuffer(0);
+  EXPECT_TRUE(egl.surfaceAttrib(display, surface, EGL_MIPMAP_LEVEL, 3));
+  EXPECT_EQ(query(surface, EGL_MIPMAP_LEVEL), 3);
+}
+
 TEST_F(Backend, TheSwapIntervalNeedsACurrentContext) {
   EXPECT_FALSE(egl.swapInterval(display, 1));
   EXPECT_EQ(egl.getError(), EGL_BAD_CONTEXT);

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <string>
+
 #include "tests/support/native_client.h"
 
 namespace {
@@ -186,10 +188,37 @@ TEST_F(ShownChild, GoesWithItsParent) {
   EXPECT_STREQ(nativeWindowError(), "Bad Child class");
 }
 
-TEST(NativeWindow, AChildNeedsAWindowOfThisKind) {
+TEST(NativeWindow, AChildMayFillAnotherPrograms) {
   NativeClient client;
-  EXPECT_FALSE(createNativeChildWindow(nativeWindow(client.createWindow(8, 8))));
-  EXPECT_STREQ(nativeWindowError(), "Bad Child class");
+  const auto parent = client.createWindow(80, 60);
+  const EGLNativeWindowType child = createNativeChildWindow(nativeWindow(parent));
+  ASSERT_TRUE(child) << nativeWindowError();
+  EGLDisplay display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
+  ASSERT_TRUE(eglInitialize(display, nullptr, nullptr));
+  const EGLint attributes[] = {EGL_SURFACE_TYPE, EGL_WINDOW_BIT, EGL_NONE};
+  EGLConfig config = nullptr;
+  EGLint count = 0;
+  ASSERT_TRUE(eglChooseConfig(display, attributes, &config, 1, &count));
+  EGLSurface surface = eglCreateWindowSurface(display, config, child, nullptr);
+  ASSERT_NE(surface, EGL_NO_SURFACE);
+  client.resizeWindow(parent, 200, 100);
+  pumpNativeMessages(idOf(child));
+  EGLint width = 0;
+  EXPECT_TRUE(eglQuerySurface(display, surface, EGL_WIDTH, &width));
+  EXPECT_EQ(width, 200);
+  client.destroyWindow(parent);
+  pumpNativeMessages(idOf(child));
+  EXPECT_FALSE(eglQuerySurface(display, surface, EGL_WIDTH, &width));
+  EXPECT_EQ(eglGetError(), EGL_BAD_SURFACE);
+  EXPECT_TRUE(eglTerminate(display));
+  destroyNativeWindow(child);
+}
+
+TEST(NativeWindow, AChildOfNoWindowLeavesTheSystemsReason) {
+  EXPECT_FALSE(createNativeChildWindow(nativeWindow(4711)));
+  const std::string text = nativeWindowError();
+  EXPECT_EQ(text.substr(0, 7), "Child: ");
+  EXPECT_GT(text.size(), 10u);
 }
 
 }  // namespace

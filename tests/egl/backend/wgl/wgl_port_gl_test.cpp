@@ -7,10 +7,12 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <thread>
+#include <utility>
+#include <vector>
 
 #include "egl/backend/egl_backend.h"
 #include "egl/backend/port.h"
+#include "egl/window/native_window.h"
 #include "tests/support/native_client.h"
 
 namespace {
@@ -31,6 +33,12 @@ class WglPort : public testing::Test {
     const EGLint size[] = {EGL_WIDTH, 4, EGL_HEIGHT, 4, EGL_NONE};
     return egl.createPbufferSurface(display, rows[0], size);
   }
+  std::uint32_t pixelAt(int x, int y) {
+    unsigned char pixel[4] = {};
+    glReadPixels(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixel);
+    return static_cast<std::uint32_t>(pixel[0]) << 16 | static_cast<std::uint32_t>(pixel[1]) << 8 |
+           pixel[2];
+  }
   /// Draws one colour on the surface and reads a pixel back as 0xRRGGBB.
   std::uint32_t drawOn(EGLSurface surface, int row) {
     EGLContext context = egl.createContext(display, rows[row], EGL_NO_CONTEXT, nullptr);
@@ -39,11 +47,9 @@ class WglPort : public testing::Test {
     }
     glClearColor(1, 0, 1, 1);
     glClear(GL_COLOR_BUFFER_BIT);
-    unsigned char pixel[4] = {};
-    glReadPixels(1, 1, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, pixel);
+    const std::uint32_t colour = pixelAt(1, 1);
     egl.makeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
-    return static_cast<std::uint32_t>(pixel[0]) << 16 | static_cast<std::uint32_t>(pixel[1]) << 8 |
-           pixel[2];
+    return colour;
   }
 
   EGLDisplay display = EGL_NO_DISPLAY;
@@ -162,27 +168,158 @@ TEST_F(WglPort, AWindowKeepsItsFormatForTheNextSurface) {
   EXPECT_EQ(drawOn(second, 7), 0xFF00FFu);
 }
 
-TEST_F(WglPort, ADevicesOwnBitmapTakesWhatWasDrawn) {
+/// A bitmap that is selected into a device, as applications keep theirs.
+class SelectedBitmap {
+ public:
+  explicit SelectedBitmap(HBITMAP bitmap)
+      : bitmap(bitmap), device(CreateCompatibleDC(nullptr)), former(SelectObject(device, bitmap)) {}
+  ~SelectedBitmap() {
+    SelectObject(device, former);
+    DeleteDC(device);
+    DeleteObject(bitmap);
+  }
+  SelectedBitmap(const SelectedBitmap&) = delete;
+  SelectedBitmap& operator=(const SelectedBitmap&) = delete;
+
+  EGLNativePixmapType pixmap() const {
+    return nativePixmap(reinterpret_cast<std::uintptr_t>(bitmap));
+  }
+  void set(int x, int y, COLORREF colour) { SetPixel(device, x, y, colour); }
+  COLORREF get(int x, int y) const { return GetPixel(device, x, y); }
+
+ private:
+  HBITMAP bitmap;
+  HDC device;
+  HGDIOBJ former;
+};
+
+HBITMAP screenBitmap() {
   const HDC screen = GetDC(nullptr);
-  const HBITMAP bitmap = CreateCompatibleBitmap(screen, 4, 4);
-  const auto pixmap = nativePixmap(reinterpret_cast<std::uintptr_t>(bitmap));
-  EGLSurface surface = egl.createPixmapSurface(display, rows[4], pixmap, nullptr);
+  const HBITMAP made = CreateCompatibleBitmap(screen, 4, 4);
+  ReleaseDC(nullptr, screen);
+  return made;
+}
+
+HBITMAP memoryBitmap(LONG height) {
+  BITMAPINFO description = {};
+  description.bmiHeader.biSize = sizeof description.bmiHeader;
+  description.bmiHeader.biWidth = 4;
+  description.bmiHeader.biHeight = height;
+  description.bmiHeader.biPlanes = 1;
+  description.bmiHeader.biBitCount = 32;
+  void* bits = nullptr;
+  return CreateDIBSection(nullptr, &description, DIB_RGB_COLORS, &bits, nullptr, 0);
+}
+
+TEST_F(WglPort, BitmapsOfEveryKindComeInAndGoBack) {
+  const std::pair<const char*, HBITMAP> kinds[] = {
+      {"the screen's", screenBitmap()},
+      {"lowest row first", memoryBitmap(4)},
+      {"highest row first", memoryBitmap(-4)},
+  };
+  for (const auto& [kind, handle] : kinds) {
+    SCOPED_TRACE(kind);
+    ASSERT_TRUE(handle);
+    SelectedBitmap bitmap(handle);
+    for (int i = 0; i < 16; ++i) {
+      bitmap.set(i % 4, i / 4, RGB(0, 0, 255));
+    }
+    bitmap.set(0, 0, RGB(255, 0, 0));
+    bitmap.set(3, 0, RGB(0, 255, 0));
+    EGLSurface surface = egl.createPixmapSurface(display, rows[4], bitmap.pixmap(), nullptr);
+    ASSERT_NE(surface, EGL_NO_SURFACE);
+    EGLContext context = egl.createContext(display, rows[4], EGL_NO_CONTEXT, nullptr);
+    ASSERT_TRUE(egl.makeCurrent(display, surface, surface, context));
+    ASSERT_TRUE(egl.waitNative(EGL_CORE_NATIVE_ENGINE)) << std::hex << egl.getError();
+    EXPECT_EQ(pixelAt(0, 3), 0xFF0000u);
+    EXPECT_EQ(pixelAt(3, 3), 0x00FF00u);
+    EXPECT_EQ(pixelAt(1, 1), 0x0000FFu);
+    // A triangle over the lower left half.
+    const GLfloat corners[] = {-1, -1, 1, -1, -1, 1};
+    glColor4f(1, 0, 1, 1);
+    glEnableClientState(GL_VERTEX_ARRAY);
+    glVertexPointer(2, GL_FLOAT, 0, corners);
+    glDrawArrays(GL_TRIANGLES, 0, 3);
+    EXPECT_TRUE(egl.waitClient());
+    EXPECT_EQ(bitmap.get(0, 3), RGB(255, 0, 255));
+    EXPECT_EQ(bitmap.get(3, 0), RGB(0, 255, 0));
+    egl.makeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+    egl.destroySurface(display, surface);
+  }
+}
+
+TEST_F(WglPort, ABitmapOf16BitsOfADeviceHasTheMasksThatTheDeviceTells) {
+  const HBITMAP bitmap = CreateBitmap(4, 4, 1, 16, nullptr);
+  ASSERT_TRUE(bitmap);
+  const auto pixmap = reinterpret_cast<std::uintptr_t>(bitmap);
+  PortPixmapLayout layout;
+  ASSERT_TRUE(portPixmapLayout(portConnect(0), pixmap, &layout));
+  // The device's form of pure green, by its own conversion.
+  BITMAPINFO full = {};
+  full.bmiHeader.biSize = sizeof full.bmiHeader;
+  full.bmiHeader.biWidth = 4;
+  full.bmiHeader.biHeight = -4;
+  full.bmiHeader.biPlanes = 1;
+  full.bmiHeader.biBitCount = 32;
+  const std::vector<std::uint32_t> green(16, 0x00FF00);
+  const HDC screen = GetDC(nullptr);
+  ASSERT_EQ(SetDIBits(screen, bitmap, 0, 4, green.data(), &full, DIB_RGB_COLORS), 4);
+  ReleaseDC(nullptr, screen);
+  std::uint16_t words[16] = {};
+  ASSERT_EQ(GetBitmapBits(bitmap, sizeof words, words), static_cast<LONG>(sizeof words));
+  EXPECT_EQ(layout.greenMask, words[0]);
+
+  EGLSurface surface = egl.createPixmapSurface(display, rows[5], nativePixmap(pixmap), nullptr);
   ASSERT_NE(surface, EGL_NO_SURFACE);
-  EGLContext context = egl.createContext(display, rows[4], EGL_NO_CONTEXT, nullptr);
+  EGLContext context = egl.createContext(display, rows[5], EGL_NO_CONTEXT, nullptr);
   ASSERT_TRUE(egl.makeCurrent(display, surface, surface, context));
+  ASSERT_TRUE(egl.waitNative(EGL_CORE_NATIVE_ENGINE));
+  EXPECT_EQ(pixelAt(1, 1), 0x00FF00u);
   const GLfloat corners[] = {-1, -1, 3, -1, -1, 3};
-  glColor4f(1, 0, 1, 1);
+  glColor4f(0, 0, 1, 1);
   glEnableClientState(GL_VERTEX_ARRAY);
   glVertexPointer(2, GL_FLOAT, 0, corners);
   glDrawArrays(GL_TRIANGLES, 0, 3);
   EXPECT_TRUE(egl.waitClient());
-  const HDC memory = CreateCompatibleDC(screen);
-  const HGDIOBJ former = SelectObject(memory, bitmap);
-  EXPECT_EQ(GetPixel(memory, 1, 1), RGB(255, 0, 255));
-  SelectObject(memory, former);
-  DeleteDC(memory);
+  ASSERT_EQ(GetBitmapBits(bitmap, sizeof words, words), static_cast<LONG>(sizeof words));
+  EXPECT_EQ(words[0] & (layout.redMask | layout.greenMask | layout.blueMask), layout.blueMask);
+  egl.makeCurrent(display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+  egl.destroySurface(display, surface);
   DeleteObject(bitmap);
-  ReleaseDC(nullptr, screen);
+}
+
+TEST_F(WglPort, ThePumpLeavesTheEndOfTheThreadsLoopToIt) {
+  const EGLNativeWindowType window = createNativeWindow();
+  ASSERT_TRUE(window);
+  PostQuitMessage(7);
+  pumpNativeMessages(idOf(window));
+  MSG message = {};
+  ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_EQ(message.wParam, 7u);
+  destroyNativeWindow(window);
+}
+
+TEST_F(WglPort, TheWindowsStyle) {
+  const EGLNativeWindowType window = createNativeWindow();
+  ASSERT_TRUE(window);
+  const auto handle = reinterpret_cast<HWND>(idOf(window));
+  EXPECT_EQ(static_cast<DWORD>(GetWindowLongW(handle, GWL_STYLE)) & 0xCF0000, 0xCF0000u);
+  EXPECT_TRUE(IsWindowVisible(handle));
+  destroyNativeWindow(window);
+  EXPECT_FALSE(IsWindow(handle));
+}
+
+TEST_F(WglPort, AnIconicWindowKeepsItsSurfacesSize) {
+  const EGLNativeWindowType window = createNativeWindow();
+  ASSERT_TRUE(window);
+  EGLSurface surface = egl.createWindowSurface(display, rows[6], window, nullptr);
+  ASSERT_NE(surface, EGL_NO_SURFACE);
+  ShowWindow(reinterpret_cast<HWND>(idOf(window)), SW_MINIMIZE);
+  EGLint width = 0;
+  EXPECT_TRUE(egl.querySurface(display, surface, EGL_WIDTH, &width));
+  EXPECT_EQ(width, 640);
+  egl.destroySurface(display, surface);
+  destroyNativeWindow(window);
 }
 
 struct CurrentWork {
