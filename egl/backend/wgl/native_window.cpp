@@ -96,7 +96,9 @@ LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM word, LPARAM va
       forget(window);
       return DefWindowProcW(window, message, word, value);
     case WM_SIZE:
-      resizeChildren(window, LOWORD(value), HIWORD(value));
+      if (word != SIZE_MINIMIZED) {
+        resizeChildren(window, LOWORD(value), HIWORD(value));
+      }
       return 0;
     default:
       return DefWindowProcW(window, message, word, value);
@@ -221,8 +223,8 @@ void pumpNativeMessages(std::uintptr_t handle) {
   }
   RECT outer = {};
   RECT inner = {};
-  if (parent && GetClientRect(parent, &outer) && GetClientRect(target, &inner) &&
-      !EqualRect(&outer, &inner)) {
+  if (parent && !IsIconic(parent) && GetClientRect(parent, &outer) &&
+      GetClientRect(target, &inner) && !EqualRect(&outer, &inner)) {
     MoveWindow(target, 0, 0, outer.right, outer.bottom, TRUE);
   }
 }

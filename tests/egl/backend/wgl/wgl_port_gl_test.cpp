@@ -309,16 +309,26 @@ TEST_F(WglPort, TheWindowsStyle) {
   EXPECT_FALSE(IsWindow(handle));
 }
 
-TEST_F(WglPort, AnIconicWindowKeepsItsSurfacesSize) {
+TEST_F(WglPort, AnIconicWindowAndItsChildKeepTheirSurfacesSizes) {
   const EGLNativeWindowType window = createNativeWindow();
   ASSERT_TRUE(window);
-  EGLSurface surface = egl.createWindowSurface(display, rows[6], window, nullptr);
-  ASSERT_NE(surface, EGL_NO_SURFACE);
+  const EGLNativeWindowType child = createNativeChildWindow(window);
+  ASSERT_TRUE(child);
+  EGLSurface outer = egl.createWindowSurface(display, rows[6], window, nullptr);
+  EGLSurface inner = egl.createWindowSurface(display, rows[6], child, nullptr);
   ShowWindow(reinterpret_cast<HWND>(idOf(window)), SW_MINIMIZE);
-  EGLint width = 0;
-  EXPECT_TRUE(egl.querySurface(display, surface, EGL_WIDTH, &width));
-  EXPECT_EQ(width, 640);
-  egl.destroySurface(display, surface);
+  ASSERT_TRUE(IsIconic(reinterpret_cast<HWND>(idOf(window))));
+  pumpNativeMessages(idOf(child));
+  for (EGLSurface surface : {outer, inner}) {
+    EGLint width = 0;
+    EGLint height = 0;
+    EXPECT_TRUE(egl.querySurface(display, surface, EGL_WIDTH, &width));
+    EXPECT_TRUE(egl.querySurface(display, surface, EGL_HEIGHT, &height));
+    EXPECT_EQ(width, 640);
+    EXPECT_EQ(height, 480);
+    egl.destroySurface(display, surface);
+  }
+  destroyNativeWindow(child);
   destroyNativeWindow(window);
 }
 
