@@ -741,7 +741,8 @@ void matrices() {
 
 void readPixels() {
   drawQuad();
-  std::vector<GLubyte> row(5 * 3 * 4 + 4, 77);
+  constexpr std::size_t rowBytes = 24;  // 5 pixels, on multiples of 8
+  std::vector<GLubyte> row(3 * rowBytes, 77);
   glPixelStorei(GL_PACK_ALIGNMENT, 8);
   glReadPixels(2, 2, 5, 3, GL_RGBA, GL_UNSIGNED_BYTE, row.data());
   glPixelStorei(GL_PACK_ALIGNMENT, 1);
