@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numbers>
 #include <numeric>
 #include <stdexcept>
 #include <vector>
@@ -425,7 +426,7 @@ TEST(TransformPostRotateQuat, AgreesWithPostRotate) {
       element = numbers.between(-1, 1);
       length += element * element;
     }
-    const double h = angle * M_PI / 360;
+    const double h = angle * std::numbers::pi / 360;
     const double s = std::sin(h) / std::sqrt(length);
     Transform expected;
     expected.postRotate(angle, static_cast<float>(axis[0]), static_cast<float>(axis[1]),
