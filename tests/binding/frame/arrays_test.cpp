@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/java_function.h"
+
 namespace varnel_m3g {
 namespace {
 
@@ -9,13 +11,12 @@ namespace {
 class OneArray {
  public:
   OneArray() {
-    functions.GetArrayLength = [](JNIEnv*, jarray) -> jsize { return 3; };
-    functions.GetFloatArrayElements = [](JNIEnv*, jfloatArray, jboolean*) -> jfloat* {
-      return handsOut ? elements : nullptr;
-    };
-    functions.ReleaseFloatArrayElements = [](JNIEnv*, jfloatArray, jfloat*, jint mode) {
-      releasedWith = mode;
-    };
+    using varnel_test::answerBy;
+    answerBy(functions.GetArrayLength, [](JNIEnv*, jarray) -> jsize { return 3; });
+    answerBy(functions.GetFloatArrayElements,
+             [](JNIEnv*, jfloatArray, jboolean*) { return handsOut ? elements : nullptr; });
+    answerBy(functions.ReleaseFloatArrayElements,
+             [](JNIEnv*, jfloatArray, jfloat*, jint mode) { releasedWith = mode; });
     environment.functions = &functions;
     handsOut = true;
     releasedWith = -1;
